@@ -1,0 +1,29 @@
+// The QUOR-6 program with its main frame.
+#include "core/programm_verzeichnis.h"
+#include "core/project_state.h"
+#include "ui/qt/mdi_quor.h"
+#include "ui/qt/qt_oberflaeche.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+int main(int argc, char* argv[]) {
+  QApplication app(argc, argv);
+  QApplication::setApplicationName("QUOR");
+  QApplication::setOrganizationName("QUOR");
+
+  const std::string benutzer =
+      QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).filePath("QUOR").toStdString();
+  const std::string programmVerzeichnis =
+      quor::ProgrammVerzeichnisEinrichten(QApplication::applicationDirPath().toStdString(), benutzer);
+  QDir::setCurrent(QString::fromStdString(programmVerzeichnis));
+
+  quor::ProjectState state;
+  quor::InitProjectState(state);
+  quor::ui::QtOberflaeche oberflaeche(nullptr, programmVerzeichnis + "/hilfe");
+  quor::ui::mdiQUOR fenster(state, oberflaeche);
+  oberflaeche.SetzeEltern(&fenster);
+  fenster.show();
+  return QApplication::exec();
+}

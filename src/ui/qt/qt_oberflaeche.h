@@ -1,0 +1,41 @@
+// The Qt implementation of the user-interface services.
+#pragma once
+
+#include "ui/oberflaeche.h"
+
+#include <memory>
+
+class QWidget;
+
+namespace quor::ui {
+
+class QtDrucker;
+
+class QtOberflaeche : public Oberflaeche {
+ public:
+  // `eltern` is the window the dialogs are modal to (may be null); `hilfeVerzeichnis` holds the
+  // help pages, one HTML file per topic number.
+  QtOberflaeche(QWidget* eltern, std::string hilfeVerzeichnis);
+  ~QtOberflaeche() override;
+
+  void SetzeEltern(QWidget* eltern) { eltern_ = eltern; }
+
+  void Meldung(const std::string& text, const std::string& titel, Symbol symbol) override;
+  Antwort Frage(const std::string& text, const std::string& titel, Knoepfe knoepfe, Antwort vorgabe) override;
+  std::optional<std::string> Eingabe(const std::string& prompt, const std::string& titel,
+                                     const std::string& vorgabe) override;
+  std::optional<std::string> DateiOeffnen(const DateiDialog& dialog) override;
+  std::optional<std::string> DateiSpeichern(const DateiDialog& dialog) override;
+  void ZwischenablageSetzen(const std::string& text) override;
+  std::string ZwischenablageText() override;
+  Drucker& Druck() override;
+  ProzessStatus StarteProzess(const ProzessAuftrag& auftrag) override;
+  void Hilfe(int thema) override;
+
+ private:
+  QWidget* eltern_;
+  std::string hilfeVerzeichnis_;
+  std::unique_ptr<QtDrucker> drucker_;
+};
+
+}  // namespace quor::ui

@@ -1,0 +1,2 @@
+// Fixture of the layering check: a core file that includes a Qt header.
+#include <QString>
