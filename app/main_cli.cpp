@@ -12,7 +12,7 @@ const char* const Hilfe = "Usage: quor-cli [global options] COMMAND [options]\n"
                           "Options:\n"
                           "  --help     show this text\n";
 
-}  // namespace
+} // namespace
 
 int main(int argc, char* argv[]) {
   if (argc < 2 || std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0) {

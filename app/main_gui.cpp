@@ -13,8 +13,9 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationName("QUOR");
   QApplication::setOrganizationName("QUOR");
 
-  const std::string benutzer =
-      QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).filePath("QUOR").toStdString();
+  const std::string benutzer = QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation))
+                                   .filePath("QUOR")
+                                   .toStdString();
   const std::string programmVerzeichnis =
       quor::ProgrammVerzeichnisEinrichten(QApplication::applicationDirPath().toStdString(), benutzer);
   QDir::setCurrent(QString::fromStdString(programmVerzeichnis));

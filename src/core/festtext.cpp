@@ -3,8 +3,10 @@
 namespace quor {
 
 namespace {
-bool IstFolgebyte(unsigned char c) { return (c & 0xC0) == 0x80; }
-}  // namespace
+bool IstFolgebyte(unsigned char c) {
+  return (c & 0xC0) == 0x80;
+}
+} // namespace
 
 std::size_t Utf8Laenge(std::string_view utf8) {
   std::size_t n = 0;
@@ -43,4 +45,4 @@ std::string Trim(std::string_view text) {
   return std::string(text.substr(anfang, ende - anfang + 1));
 }
 
-}  // namespace quor
+} // namespace quor

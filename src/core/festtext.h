@@ -19,4 +19,4 @@ std::string RechtsBuendig(std::string_view utf8, std::size_t breite);
 // The text without blanks at both ends.
 std::string Trim(std::string_view text);
 
-}  // namespace quor
+} // namespace quor

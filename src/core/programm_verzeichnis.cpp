@@ -39,4 +39,4 @@ std::string ProgrammVerzeichnisEinrichten(const std::string& exeVerzeichnis,
   return benutzerVerzeichnis;
 }
 
-}  // namespace quor
+} // namespace quor

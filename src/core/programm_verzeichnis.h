@@ -18,4 +18,4 @@ bool VerzeichnisBeschreibbar(const std::string& verzeichnis);
 std::string ProgrammVerzeichnisEinrichten(const std::string& exeVerzeichnis,
                                           const std::string& benutzerVerzeichnis);
 
-}  // namespace quor
+} // namespace quor

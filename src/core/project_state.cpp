@@ -50,17 +50,37 @@ const char* const HLVTexte[8] = {"keine",
 const char* const CpTexte[3] = {"(keine Gleichung vorhanden)   ", "Polynomansatz    (MDB-Gl.)",
                                 "sinh/cosh-Ansatz (MDB-Gl.)"};
 
-const char* const LabelTexte[24] = {
-    " (dp/dV) bei T", " (dp/dT) bei v", " (dV/dp) bei T", " (dV/dT) bei p", " (dT/dV) bei p", " (dT/dp) bei v",
-    " alpha/(1/K)  ", "   chi/(1/kPa)", "  beta/(1/K)  ", "       d2p/dV²", "",               "",
-    "       d2V/dT²", "       d2T/dV²", "     ln (phi*)", "    dln phi/dT", "  d2ln phi/dT²", "   (s-s_idG)/R",
-    "   (h-h_idG)/R", "   (g-g_idG)/R", " (cp-cp_idG)/R", " (dT/dp) bei H", " cv/kJ/kmol/K ", " cp/kJ/kmol/K "};
+const char* const LabelTexte[24] = {" (dp/dV) bei T",
+                                    " (dp/dT) bei v",
+                                    " (dV/dp) bei T",
+                                    " (dV/dT) bei p",
+                                    " (dT/dV) bei p",
+                                    " (dT/dp) bei v",
+                                    " alpha/(1/K)  ",
+                                    "   chi/(1/kPa)",
+                                    "  beta/(1/K)  ",
+                                    "       d2p/dV²",
+                                    "",
+                                    "",
+                                    "       d2V/dT²",
+                                    "       d2T/dV²",
+                                    "     ln (phi*)",
+                                    "    dln phi/dT",
+                                    "  d2ln phi/dT²",
+                                    "   (s-s_idG)/R",
+                                    "   (h-h_idG)/R",
+                                    "   (g-g_idG)/R",
+                                    " (cp-cp_idG)/R",
+                                    " (dT/dp) bei H",
+                                    " cv/kJ/kmol/K ",
+                                    " cp/kJ/kmol/K "};
 
 const char* const DampfdruckTags = "ALP.AHP.FRO.WAG.AUG.KFW.KFR.THO";
 
 template <std::size_t N>
 void Fuelle(std::array<std::string, N>& tabelle, const char* const (&texte)[N], std::size_t breite) {
-  for (std::size_t i = 0; i < N; ++i) tabelle[i] = FestText(texte[i], breite);
+  for (std::size_t i = 0; i < N; ++i)
+    tabelle[i] = FestText(texte[i], breite);
 }
 
 void FuelleTabellen(Tabellen& t) {
@@ -76,15 +96,15 @@ void LoescheEOSKonstantenFelder(EOSGruppe& e) {
   e.aExp = e.bExp = e.cExp = e.dExp = 0;
 }
 
-void Vorgabewerte(ProjectState& s, EOSSetupFunktion setup) {
+void Vorgabewerte(ProjectState& s, const EOSSetupFunktion& setup) {
   EinheitenGruppe& e = s.Einheiten;
   if (e.TVorgabe == 0) e.TVorgabe = static_cast<float>(s.Stoff.TKrit);
   if (e.pVorgabe == 0) e.pVorgabe = static_cast<float>(s.Stoff.pKrit);
-  if (s.EOS.vKritEOS == 0 && setup != nullptr) setup(s);
+  if (s.EOS.vKritEOS == 0 && setup) setup(s);
   if (e.vVorgabe == 0 && s.EOS.vKritEOS > 0) e.vVorgabe = static_cast<float>(s.EOS.vKritEOS);
 }
 
-}  // namespace
+} // namespace
 
 bool LocaleHatDezimalKomma() {
   try {
@@ -93,11 +113,11 @@ bool LocaleHatDezimalKomma() {
     text << 0.75;
     return text.str().find(',') != std::string::npos;
   } catch (...) {
-    return false;  // no usable user locale: the classic one writes a point
+    return false; // no usable user locale: the classic one writes a point
   }
 }
 
-void InitProjectState(ProjectState& s, EOSSetupFunktion setup) {
+void InitProjectState(ProjectState& s, const EOSSetupFunktion& setup) {
   s.Optionen.DezimalKomma = LocaleHatDezimalKomma();
 
   s.Referenz.TRef = 298.15f;
@@ -181,4 +201,4 @@ void SetzeEinheiten(ProjectState& s, ui::Oberflaeche& ui) {
   }
 }
 
-}  // namespace quor
+} // namespace quor

@@ -5,7 +5,11 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
+
+#include "core/datenbank_gruppe.h"
+#include "core/substance_record.h"
 
 namespace quor {
 
@@ -14,9 +18,9 @@ class Oberflaeche;
 }
 
 // Physical constants, used with exactly these values in every formula.
-constexpr double RGas = 8.31451;      // kJ/(kmol K)
-constexpr double pNormal = 101.325;   // kPa
-constexpr double TStandard = 298.15;  // K
+constexpr double RGas = 8.31451;     // kJ/(kmol K)
+constexpr double pNormal = 101.325;  // kPa
+constexpr double TStandard = 298.15; // K
 constexpr double LnTen = 2.30258509299405;
 
 // Widths of the name tables (characters, blanks included).
@@ -24,18 +28,18 @@ constexpr int NamenBreite = 35;
 constexpr int LabelBreite = 14;
 
 // Substance constants: the working copy of the loaded database record.
-struct StoffGruppe {
+struct StoffGruppe : SubstanceRecord {
   std::string StoffName;
-  float MolMasse = 0;  // kg/kmol
-  float TSiede = 0;    // K
-  float TTripel = 0;   // K
-  float pTripel = 0;   // kPa
-  float hBildung = 0;  // kJ/kmol
-  float gBildung = 0;  // kJ/kmol
-  float sBildung = 0;  // kJ/(kmol K)
-  float DeltaFs = 0;   // kJ/(kmol K)
-  double TKrit = 0;    // K, 0 = unknown
-  double pKrit = 0;    // kPa, 0 = unknown
+  float MolMasse = 0; // kg/kmol
+  float TSiede = 0;   // K
+  float TTripel = 0;  // K
+  float pTripel = 0;  // kPa
+  float hBildung = 0; // kJ/kmol
+  float gBildung = 0; // kJ/kmol
+  float sBildung = 0; // kJ/(kmol K)
+  float DeltaFs = 0;  // kJ/(kmol K)
+  double TKrit = 0;   // K, 0 = unknown
+  double pKrit = 0;   // kPa, 0 = unknown
   double rhoKritExp = 0;
   double vKritExp = 0;
   double omega = 0;
@@ -48,7 +52,7 @@ struct StoffGruppe {
 struct EOSGruppe {
   double vKritEOS = 0;
   double rhoKritEOS = 0;
-  int16_t aForm = 0;  // 1: a(T) a power of T; 2: Soave form
+  int16_t aForm = 0; // 1: a(T) a power of T; 2: Soave form
   double a0 = 0, b0 = 0, c0 = 0, d0 = 0;
   double aExp = 0, bExp = 0, cExp = 0, dExp = 0;
   double BExpHand = 0;
@@ -86,7 +90,7 @@ struct ModelSelection {
 };
 
 struct ReferenzGruppe {
-  int16_t RefArt = 1;  // 1 user values, 10 conventional normalisation, 2 formation quantities
+  int16_t RefArt = 1; // 1 user values, 10 conventional normalisation, 2 formation quantities
   double hRef = 0;
   double sRef = 0;
   float TRef = 298.15f;
@@ -98,9 +102,9 @@ struct ReferenzGruppe {
 };
 
 struct EinheitenGruppe {
-  int16_t VolumenMode = 0;  // 0 m^3/kmol, 1 m^3/kg, 2 reduced T, p, v
+  int16_t VolumenMode = 0; // 0 m^3/kmol, 1 m^3/kg, 2 reduced T, p, v
   double VolumenFaktor = 1;
-  int16_t EnergieMode = 0;  // 0 kJ/kmol, 1 per R, 2 per R*TVorgabe, 3 kJ/kg
+  int16_t EnergieMode = 0; // 0 kJ/kmol, 1 per R, 2 per R*TVorgabe, 3 kJ/kg
   double EnergieFaktor = 1;
   float TFaktor = 1;
   float pFaktor = 1;
@@ -139,14 +143,15 @@ struct ProjectState {
   EinheitenGruppe Einheiten;
   OptionenGruppe Optionen;
   Tabellen Tab;
+  DatenbankGruppe Datenbank;
 };
 
 // The parameter set-up of the equation of state lives in the engine, which sits above this layer;
 // the program hands it in so that the start-up can run it.
-using EOSSetupFunktion = void (*)(ProjectState&);
+using EOSSetupFunktion = std::function<void(ProjectState&)>;
 
 // Fills tables and defaults in the order of the program's start.
-void InitProjectState(ProjectState& s, EOSSetupFunktion setup = nullptr);
+void InitProjectState(ProjectState& s, const EOSSetupFunktion& setup = {});
 
 // True when the user's locale formats 0.75 with a comma.
 bool LocaleHatDezimalKomma();
@@ -158,4 +163,4 @@ void SetzeEinheiten(ProjectState& s, ui::Oberflaeche& ui);
 // Three-letter tag of a vapour-pressure row ("000" for row 0 or an index outside the table).
 std::string DampfdruckTagVon(int index);
 
-}  // namespace quor
+} // namespace quor

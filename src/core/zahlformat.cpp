@@ -22,7 +22,7 @@ Dezimal ZerlegeDezimal(double betrag, int stellen) {
   char puffer[48];
   std::snprintf(puffer, sizeof puffer, "%.*e", stellen - 1, betrag);
   Dezimal d;
-  const char *p = puffer;
+  const char* p = puffer;
   for (; *p != '\0' && *p != 'e'; ++p)
     if (*p >= '0' && *p <= '9') d.ziffern += *p;
   if (*p == 'e') d.exp = std::atoi(p + 1);
@@ -30,7 +30,7 @@ Dezimal ZerlegeDezimal(double betrag, int stellen) {
 }
 
 // Adds one unit in the last place of a digit string; "99" becomes "100", "" becomes "1".
-void ErhoeheLetzteStelle(std::string &z) {
+void ErhoeheLetzteStelle(std::string& z) {
   for (auto i = z.size(); i > 0; --i) {
     if (z[i - 1] != '9') {
       ++z[i - 1];
@@ -42,7 +42,7 @@ void ErhoeheLetzteStelle(std::string &z) {
 }
 
 // The first n digits of z (zeros appended beyond its end), rounded half up at digit n.
-std::string RundeAufStellen(const std::string &z, int n) {
+std::string RundeAufStellen(const std::string& z, int n) {
   if (n < 0) return std::string();
   const auto stellen = static_cast<std::size_t>(n);
   std::string r = z.substr(0, stellen);
@@ -51,7 +51,7 @@ std::string RundeAufStellen(const std::string &z, int n) {
   return r;
 }
 
-std::string OhneFuehrendeNullen(const std::string &z) {
+std::string OhneFuehrendeNullen(const std::string& z) {
   const auto erste = z.find_first_not_of('0');
   return erste == std::string::npos ? std::string() : z.substr(erste);
 }
@@ -82,7 +82,7 @@ struct Abschnitt {
   int expMin = 0;      // least number of exponent digits
 };
 
-void TextAnhaengen(Abschnitt &a, std::string_view text) {
+void TextAnhaengen(Abschnitt& a, std::string_view text) {
   if (!a.teile.empty() && a.teile.back().art == Art::Text)
     a.teile.back().text += text;
   else
@@ -91,7 +91,7 @@ void TextAnhaengen(Abschnitt &a, std::string_view text) {
 
 // Reads an exponent marker right behind the mantissa's digits, starting at s[i] ('E' or 'e' followed by its
 // sign); returns the index of its last character.
-std::size_t LiesExponent(Abschnitt &a, std::string_view s, std::size_t i) {
+std::size_t LiesExponent(Abschnitt& a, std::string_view s, std::size_t i) {
   a.exponent = true;
   a.expZeichen = s[i];
   a.expPlus = s[i + 1] == '+';
@@ -185,7 +185,7 @@ struct Ziffern {
 };
 
 // Fixed notation: round to nNachkomma decimals.
-Ziffern FesteZiffern(const Abschnitt &a, double betrag) {
+Ziffern FesteZiffern(const Abschnitt& a, double betrag) {
   const Dezimal d = ZerlegeDezimal(betrag, 15);
   const std::string r = RundeAufStellen(d.ziffern, d.exp + 1 + a.nNachkomma);
   const auto n = static_cast<std::size_t>(a.nNachkomma);
@@ -201,7 +201,7 @@ Ziffern FesteZiffern(const Abschnitt &a, double betrag) {
 
 // Scientific notation: the mantissa keeps as many integer digits as there are placeholders before the
 // point; with none it lies in [0.1, 1).
-Ziffern ExponentZiffern(const Abschnitt &a, double betrag) {
+Ziffern ExponentZiffern(const Abschnitt& a, double betrag) {
   const Dezimal d = ZerlegeDezimal(betrag, 15);
   const int stellen = a.nVorkomma + a.nNachkomma;
   std::string r = RundeAufStellen(d.ziffern, stellen);
@@ -218,7 +218,7 @@ Ziffern ExponentZiffern(const Abschnitt &a, double betrag) {
   return z;
 }
 
-Ziffern BerechneZiffern(const Abschnitt &a, double betrag) {
+Ziffern BerechneZiffern(const Abschnitt& a, double betrag) {
   Ziffern z = a.exponent ? ExponentZiffern(a, betrag) : FesteZiffern(a, betrag);
   z.vorkomma = OhneFuehrendeNullen(z.vorkomma);
   if (static_cast<int>(z.vorkomma.size()) < a.minVorkomma)
@@ -229,7 +229,7 @@ Ziffern BerechneZiffern(const Abschnitt &a, double betrag) {
   return z;
 }
 
-std::string Gruppiert(const std::string &ziffern) {
+std::string Gruppiert(const std::string& ziffern) {
   std::string out;
   for (std::size_t i = 0; i < ziffern.size(); ++i) {
     if (i > 0 && (ziffern.size() - i) % 3 == 0) out += ',';
@@ -238,7 +238,7 @@ std::string Gruppiert(const std::string &ziffern) {
   return out;
 }
 
-std::string ExponentText(const Abschnitt &a, int exp) {
+std::string ExponentText(const Abschnitt& a, int exp) {
   std::string out(1, a.expZeichen);
   if (exp < 0)
     out += '-';
@@ -251,7 +251,7 @@ std::string ExponentText(const Abschnitt &a, int exp) {
 }
 
 // Integer digits are right-aligned on the placeholders; the first placeholder takes any surplus.
-void VorkommaStelle(const Abschnitt &a, const std::string &vorkomma, int index, std::string &out) {
+void VorkommaStelle(const Abschnitt& a, const std::string& vorkomma, int index, std::string& out) {
   if (a.gruppieren) {
     if (index == 0) out += Gruppiert(vorkomma);
     return;
@@ -263,14 +263,14 @@ void VorkommaStelle(const Abschnitt &a, const std::string &vorkomma, int index, 
     out += vorkomma[static_cast<std::size_t>(j)];
 }
 
-std::string FormatAbschnitt(const Abschnitt &a, double betrag) {
+std::string FormatAbschnitt(const Abschnitt& a, double betrag) {
   betrag *= std::pow(100.0, a.prozent) / std::pow(1000.0, a.tausender);
   if (!std::isfinite(betrag)) return "Inf";
   const Ziffern z = BerechneZiffern(a, betrag);
   std::string out;
   int vorIndex = 0;
   std::size_t nachIndex = 0;
-  for (const Teil &t : a.teile) {
+  for (const Teil& t : a.teile) {
     switch (t.art) {
     case Art::Text:
       out += t.text;

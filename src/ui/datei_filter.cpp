@@ -21,7 +21,8 @@ std::vector<std::string> Teile(std::string_view text, char trenner) {
 }
 
 std::string Umgewandelt(std::string text, int (*f)(int)) {
-  for (char& c : text) c = static_cast<char>(f(static_cast<unsigned char>(c)));
+  for (char& c : text)
+    c = static_cast<char>(f(static_cast<unsigned char>(c)));
   return text;
 }
 
@@ -44,12 +45,13 @@ std::string MusterListe(std::string_view muster) {
 
 std::string OhneKlammerMuster(const std::string& beschreibung) {
   const auto klammer = beschreibung.rfind('(');
-  if (klammer == std::string::npos || beschreibung.find('*', klammer) == std::string::npos) return beschreibung;
+  if (klammer == std::string::npos || beschreibung.find('*', klammer) == std::string::npos)
+    return beschreibung;
   auto ende = beschreibung.find_last_not_of(' ', klammer == 0 ? 0 : klammer - 1);
   return ende == std::string::npos ? std::string() : beschreibung.substr(0, ende + 1);
 }
 
-}  // namespace
+} // namespace
 
 std::string ToolkitFilter(std::string_view filter) {
   const auto teile = Teile(filter, '|');
@@ -73,4 +75,4 @@ std::string MitStandardEndung(std::string_view pfad, std::string_view endung) {
   return ergebnis;
 }
 
-}  // namespace quor::ui
+} // namespace quor::ui

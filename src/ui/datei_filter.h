@@ -15,4 +15,4 @@ std::string ToolkitFilter(std::string_view filter);
 // Adds the default extension (".QC6") to a file name whose last part has none.
 std::string MitStandardEndung(std::string_view pfad, std::string_view endung);
 
-}  // namespace quor::ui
+} // namespace quor::ui

@@ -20,14 +20,14 @@ struct DateiDialog {
   std::string filter;
   std::string standardEndung;
   std::string startVerzeichnis;
-  std::string dateiName;  // proposed name (save) or preselected file (open)
+  std::string dateiName; // proposed name (save) or preselected file (open)
 };
 
 // Text and line output to a printer; positions and widths are in points (1/72 inch) from the top
 // left corner of the printable area. `DruckeText` writes at the current position and moves to the
 // start of the next line, like a line printer.
 class Drucker {
- public:
+public:
   virtual ~Drucker() = default;
   // Lets the user choose the printer (or a PDF file); false when cancelled or none is available.
   virtual bool StartDokument(const std::string& dokumentName) = 0;
@@ -44,7 +44,7 @@ class Drucker {
 };
 
 struct ProzessAuftrag {
-  std::string programm;  // full path of the executable
+  std::string programm; // full path of the executable
   std::vector<std::string> argumente;
   std::string arbeitsVerzeichnis;
   bool versteckt = true;
@@ -59,13 +59,15 @@ struct ProzessStatus {
 };
 
 class Oberflaeche {
- public:
+public:
   virtual ~Oberflaeche() = default;
 
   // A modal message box; lines of `text` are joined by CR LF.
-  virtual void Meldung(const std::string& text, const std::string& titel, Symbol symbol = Symbol::Information) = 0;
+  virtual void Meldung(const std::string& text, const std::string& titel,
+                       Symbol symbol = Symbol::Information) = 0;
   // A modal question; `vorgabe` is the button that Enter presses.
-  virtual Antwort Frage(const std::string& text, const std::string& titel, Knoepfe knoepfe, Antwort vorgabe) = 0;
+  virtual Antwort Frage(const std::string& text, const std::string& titel, Knoepfe knoepfe,
+                        Antwort vorgabe) = 0;
   // The input box; no value when cancelled.
   virtual std::optional<std::string> Eingabe(const std::string& prompt, const std::string& titel,
                                              const std::string& vorgabe) = 0;
@@ -84,4 +86,4 @@ class Oberflaeche {
   virtual void Hilfe(int thema) = 0;
 };
 
-}  // namespace quor::ui
+} // namespace quor::ui

@@ -10,7 +10,7 @@ std::string Zahl(double x) {
   t << x;
   return t.str();
 }
-}  // namespace
+} // namespace
 
 bool SkriptDrucker::StartDokument(const std::string& dokumentName) {
   protokoll.push_back("Start " + dokumentName);
@@ -31,7 +31,9 @@ double SkriptDrucker::TextBreite(const std::string& text) {
   return 0.6 * groesse_ * static_cast<double>(zeichen);
 }
 
-double SkriptDrucker::ZeilenHoehe() { return 1.2 * groesse_; }
+double SkriptDrucker::ZeilenHoehe() {
+  return 1.2 * groesse_;
+}
 
 void SkriptDrucker::Position(double x, double y) {
   x_ = x;
@@ -54,13 +56,16 @@ void SkriptDrucker::NeueSeite() {
   x_ = y_ = 0;
 }
 
-void SkriptDrucker::EndeDokument() { protokoll.push_back("Ende"); }
+void SkriptDrucker::EndeDokument() {
+  protokoll.push_back("Ende");
+}
 
 void SkriptOberflaeche::Meldung(const std::string& text, const std::string& titel, Symbol symbol) {
   protokoll.push_back({"Meldung", text, titel, symbol});
 }
 
-Antwort SkriptOberflaeche::Frage(const std::string& text, const std::string& titel, Knoepfe, Antwort vorgabe) {
+Antwort SkriptOberflaeche::Frage(const std::string& text, const std::string& titel, Knoepfe,
+                                 Antwort vorgabe) {
   protokoll.push_back({"Frage", text, titel, Symbol::Frage});
   if (antworten.empty()) return vorgabe;
   const Antwort a = antworten.front();
@@ -114,6 +119,8 @@ std::vector<Aufzeichnung> SkriptOberflaeche::Meldungen() const {
   return m;
 }
 
-Aufzeichnung SkriptOberflaeche::Letzte() const { return protokoll.empty() ? Aufzeichnung{} : protokoll.back(); }
+Aufzeichnung SkriptOberflaeche::Letzte() const {
+  return protokoll.empty() ? Aufzeichnung{} : protokoll.back();
+}
 
-}  // namespace quor::ui
+} // namespace quor::ui

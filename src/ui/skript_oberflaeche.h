@@ -11,7 +11,7 @@
 namespace quor::ui {
 
 struct Aufzeichnung {
-  std::string art;  // "Meldung", "Frage", "Eingabe", "DateiOeffnen", "DateiSpeichern", "Hilfe", "Prozess"
+  std::string art; // "Meldung", "Frage", "Eingabe", "DateiOeffnen", "DateiSpeichern", "Hilfe", "Prozess"
   std::string text;
   std::string titel;
   Symbol symbol = Symbol::Keins;
@@ -19,7 +19,7 @@ struct Aufzeichnung {
 
 // Records the printer's calls as readable lines ("Text 72 100 QUOR", "Schrift COURIER 10", ...).
 class SkriptDrucker : public Drucker {
- public:
+public:
   bool StartDokument(const std::string& dokumentName) override;
   void Schrift(const std::string& name, double groesse, bool fett) override;
   double TextBreite(const std::string& text) override;
@@ -32,16 +32,16 @@ class SkriptDrucker : public Drucker {
   void NeueSeite() override;
   void EndeDokument() override;
 
-  bool verfuegbar = true;  // false: StartDokument fails as with a cancelled print dialog
+  bool verfuegbar = true; // false: StartDokument fails as with a cancelled print dialog
   std::vector<std::string> protokoll;
-  std::vector<std::string> texte;  // the printed texts only, in order
+  std::vector<std::string> texte; // the printed texts only, in order
 
- private:
+private:
   double x_ = 0, y_ = 0, groesse_ = 10;
 };
 
 class SkriptOberflaeche : public Oberflaeche {
- public:
+public:
   void Meldung(const std::string& text, const std::string& titel, Symbol symbol) override;
   Antwort Frage(const std::string& text, const std::string& titel, Knoepfe knoepfe, Antwort vorgabe) override;
   std::optional<std::string> Eingabe(const std::string& prompt, const std::string& titel,
@@ -75,4 +75,4 @@ class SkriptOberflaeche : public Oberflaeche {
   std::vector<int> hilfeThemen;
 };
 
-}  // namespace quor::ui
+} // namespace quor::ui

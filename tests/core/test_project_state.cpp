@@ -99,11 +99,16 @@ TEST(NameTables, RowsHaveTheirTextsAndWidths) {
   ProjectState s;
   InitProjectState(s);
   const Tabellen& t = s.Tab;
-  for (const auto& r : t.EOSNamen) EXPECT_EQ(Utf8Laenge(r), 35u) << r;
-  for (const auto& r : t.DampfdruckNamen) EXPECT_EQ(Utf8Laenge(r), 35u) << r;
-  for (const auto& r : t.HLVNamen) EXPECT_EQ(Utf8Laenge(r), 35u) << r;
-  for (const auto& r : t.CpNamen) EXPECT_EQ(Utf8Laenge(r), 35u) << r;
-  for (const auto& r : t.AbleitungsLabels) EXPECT_EQ(Utf8Laenge(r), 14u) << r;
+  for (const auto& r : t.EOSNamen)
+    EXPECT_EQ(Utf8Laenge(r), 35u) << r;
+  for (const auto& r : t.DampfdruckNamen)
+    EXPECT_EQ(Utf8Laenge(r), 35u) << r;
+  for (const auto& r : t.HLVNamen)
+    EXPECT_EQ(Utf8Laenge(r), 35u) << r;
+  for (const auto& r : t.CpNamen)
+    EXPECT_EQ(Utf8Laenge(r), 35u) << r;
+  for (const auto& r : t.AbleitungsLabels)
+    EXPECT_EQ(Utf8Laenge(r), 14u) << r;
   EXPECT_EQ(Trim(t.EOSNamen[1]), "");
   EXPECT_EQ(Trim(t.EOSNamen[9]), "");
   EXPECT_EQ(t.EOSNamen[0].substr(0, 13), "Idealgas-EOS ");
@@ -130,7 +135,7 @@ TEST(NameTables, VapourPressureTags) {
 }
 
 class Einheiten : public ::testing::Test {
- protected:
+protected:
   void SetUp() override {
     InitProjectState(s);
     Methan(s);
@@ -182,7 +187,7 @@ TEST_F(Einheiten, ReducedModeWithoutCriticalPressureKeepsTheTemperatureText) {
 }
 
 TEST_F(Einheiten, ReducedModeWithoutCriticalVolumeFallsBackWithItsMessage) {
-  s.EOS.vKritEOS = 0;  // a virial model has none
+  s.EOS.vKritEOS = 0; // a virial model has none
   s.Einheiten.VolumenMode = 2;
   SetzeEinheiten(s, ui);
   EXPECT_EQ(s.Einheiten.VolumenMode, 0);
@@ -216,5 +221,5 @@ TEST(FesteTexte, WidthsCountCharactersNotBytes) {
   EXPECT_EQ(Trim("   "), "");
 }
 
-}  // namespace
-}  // namespace quor
+} // namespace
+} // namespace quor

@@ -15,12 +15,12 @@ namespace {
 
 struct Fall {
   double wert;
-  const char *muster;
-  const char *erwartet;
+  const char* muster;
+  const char* erwartet;
 };
 
 template <std::size_t N> void PruefeTabelle(const Fall (&faelle)[N]) {
-  for (const Fall &f : faelle)
+  for (const Fall& f : faelle)
     EXPECT_EQ(FormatVB(f.wert, f.muster), f.erwartet) << "Format(" << f.wert << ", \"" << f.muster << "\")";
 }
 
@@ -192,7 +192,7 @@ TEST(FormatVB, ExtremeMagnitudes) {
 TEST(FormatVB, NonFiniteInputGivesAWordInsteadOfDigits) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const double inf = std::numeric_limits<double>::infinity();
-  for (const char *muster : {"###0.000 K", "0.0000E+00", " 0.0000E+00;-0.0000E+00", "#"}) {
+  for (const char* muster : {"###0.000 K", "0.0000E+00", " 0.0000E+00;-0.0000E+00", "#"}) {
     EXPECT_EQ(FormatVB(nan, muster), "NaN") << muster;
     EXPECT_EQ(FormatVB(inf, muster), "Inf") << muster;
     EXPECT_EQ(FormatVB(-inf, muster), "-Inf") << muster;
@@ -203,7 +203,7 @@ TEST(FormatVB, NonFiniteInputGivesAWordInsteadOfDigits) {
 TEST(FormatVB, ExponentTextReadsBackAsTheValue) {
   // Independent check: the text parsed by strtod must give the value to the shown precision.
   for (double x = 1.7e-300; std::fabs(x) < 1e300; x *= -37.3) { // alternating signs
-    for (const char *muster : {"0.0000000E+00", ".0000000E+00", " 0.0000E+00;-0.0000E+00"}) {
+    for (const char* muster : {"0.0000000E+00", ".0000000E+00", " 0.0000E+00;-0.0000E+00"}) {
       const std::string text = FormatVB(x, muster);
       const double zurueck = std::strtod(text.c_str(), nullptr);
       EXPECT_NEAR(zurueck / x, 1.0, 1e-4) << muster << " " << text;

@@ -21,5 +21,5 @@ TEST(DateiFilter, DefaultExtensionOnlyWhenTheNameHasNone) {
   EXPECT_EQ(MitStandardEndung("", ".QC6"), "");
 }
 
-}  // namespace
-}  // namespace quor::ui
+} // namespace
+} // namespace quor::ui

@@ -56,5 +56,5 @@ TEST(Drucker, WritesTextAndLinesIntoAPdf) {
   EXPECT_TRUE(datei.read(5).startsWith("%PDF"));
 }
 
-}  // namespace
-}  // namespace quor::ui
+} // namespace
+} // namespace quor::ui

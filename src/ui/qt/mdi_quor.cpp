@@ -21,4 +21,4 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
   resize(1024, 720);
 }
 
-}  // namespace quor::ui
+} // namespace quor::ui

@@ -18,15 +18,15 @@ extern const char* const HauptfensterTitel;
 class mdiQUOR : public QMainWindow {
   Q_OBJECT
 
- public:
+public:
   mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern = nullptr);
 
   QMdiArea* Arbeitsflaeche() const { return mdi_; }
 
- private:
+private:
   ProjectState& state_;
   Oberflaeche& ui_;
   QMdiArea* mdi_;
 };
 
-}  // namespace quor::ui
+} // namespace quor::ui

@@ -8,14 +8,18 @@
 namespace quor::ui {
 
 namespace {
-QString Q(const std::string& s) { return QString::fromStdString(s); }
-}  // namespace
+QString Q(const std::string& s) {
+  return QString::fromStdString(s);
+}
+} // namespace
 
 QtDrucker::QtDrucker(QWidget* eltern) : eltern_(eltern), schrift_("Courier", 10) {
   schrift_.setStyleHint(QFont::TypeWriter);
 }
 
-QtDrucker::~QtDrucker() { EndeDokument(); }
+QtDrucker::~QtDrucker() {
+  EndeDokument();
+}
 
 bool QtDrucker::StartDokument(const std::string& dokumentName) {
   EndeDokument();
@@ -58,7 +62,9 @@ double QtDrucker::TextBreite(const std::string& text) {
   return QFontMetricsF(schrift_).horizontalAdvance(Q(text));
 }
 
-double QtDrucker::ZeilenHoehe() { return QFontMetricsF(schrift_).lineSpacing(); }
+double QtDrucker::ZeilenHoehe() {
+  return QFontMetricsF(schrift_).lineSpacing();
+}
 
 void QtDrucker::Position(double x, double y) {
   x_ = x;
@@ -93,4 +99,4 @@ void QtDrucker::EndeDokument() {
   printer_.reset();
 }
 
-}  // namespace quor::ui
+} // namespace quor::ui

@@ -14,7 +14,7 @@ class QWidget;
 namespace quor::ui {
 
 class QtDrucker : public Drucker {
- public:
+public:
   explicit QtDrucker(QWidget* eltern);
   ~QtDrucker() override;
 
@@ -34,7 +34,7 @@ class QtDrucker : public Drucker {
   void NeueSeite() override;
   void EndeDokument() override;
 
- private:
+private:
   double SeitenHoehe() const;
 
   QWidget* eltern_;
@@ -45,4 +45,4 @@ class QtDrucker : public Drucker {
   double x_ = 0, y_ = 0;
 };
 
-}  // namespace quor::ui
+} // namespace quor::ui

@@ -18,10 +18,14 @@ namespace quor::ui {
 
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
+QString Q(const std::string& s) {
+  return QString::fromStdString(s);
+}
 
 // Message texts join their lines with CR LF; the toolkit wants LF alone.
-QString Zeilen(const std::string& s) { return Q(s).replace("\r\n", "\n"); }
+QString Zeilen(const std::string& s) {
+  return Q(s).replace("\r\n", "\n");
+}
 
 QMessageBox::Icon Icon(Symbol s) {
   switch (s) {
@@ -85,7 +89,7 @@ void DeutscheKnoepfe(QMessageBox& box) {
   if (auto* b = box.button(QMessageBox::Ok)) b->setText("OK");
 }
 
-}  // namespace
+} // namespace
 
 QtOberflaeche::QtOberflaeche(QWidget* eltern, std::string hilfeVerzeichnis)
     : eltern_(eltern), hilfeVerzeichnis_(std::move(hilfeVerzeichnis)),
@@ -110,7 +114,8 @@ Antwort QtOberflaeche::Frage(const std::string& text, const std::string& titel, 
 std::optional<std::string> QtOberflaeche::Eingabe(const std::string& prompt, const std::string& titel,
                                                   const std::string& vorgabe) {
   bool ok = false;
-  const QString text = QInputDialog::getText(eltern_, Q(titel), Zeilen(prompt), QLineEdit::Normal, Q(vorgabe), &ok);
+  const QString text =
+      QInputDialog::getText(eltern_, Q(titel), Zeilen(prompt), QLineEdit::Normal, Q(vorgabe), &ok);
   if (!ok) return std::nullopt;
   return text.toStdString();
 }
@@ -135,7 +140,9 @@ void QtOberflaeche::ZwischenablageSetzen(const std::string& text) {
   QApplication::clipboard()->setText(Q(text));
 }
 
-std::string QtOberflaeche::ZwischenablageText() { return QApplication::clipboard()->text().toStdString(); }
+std::string QtOberflaeche::ZwischenablageText() {
+  return QApplication::clipboard()->text().toStdString();
+}
 
 Drucker& QtOberflaeche::Druck() {
   drucker_->SetzeEltern(eltern_);
@@ -145,7 +152,8 @@ Drucker& QtOberflaeche::Druck() {
 ProzessStatus QtOberflaeche::StarteProzess(const ProzessAuftrag& auftrag) {
   QProcess prozess;
   QStringList argumente;
-  for (const auto& a : auftrag.argumente) argumente << Q(a);
+  for (const auto& a : auftrag.argumente)
+    argumente << Q(a);
   if (!auftrag.arbeitsVerzeichnis.empty()) prozess.setWorkingDirectory(Q(auftrag.arbeitsVerzeichnis));
   // A hidden child has no console of its own; its output is dropped.
   if (auftrag.versteckt) prozess.setStandardOutputFile(QProcess::nullDevice());
@@ -169,4 +177,4 @@ void QtOberflaeche::Hilfe(int thema) {
   QDesktopServices::openUrl(QUrl::fromLocalFile(seite));
 }
 
-}  // namespace quor::ui
+} // namespace quor::ui

@@ -12,7 +12,7 @@ namespace quor::ui {
 class QtDrucker;
 
 class QtOberflaeche : public Oberflaeche {
- public:
+public:
   // `eltern` is the window the dialogs are modal to (may be null); `hilfeVerzeichnis` holds the
   // help pages, one HTML file per topic number.
   QtOberflaeche(QWidget* eltern, std::string hilfeVerzeichnis);
@@ -32,10 +32,10 @@ class QtOberflaeche : public Oberflaeche {
   ProzessStatus StarteProzess(const ProzessAuftrag& auftrag) override;
   void Hilfe(int thema) override;
 
- private:
+private:
   QWidget* eltern_;
   std::string hilfeVerzeichnis_;
   std::unique_ptr<QtDrucker> drucker_;
 };
 
-}  // namespace quor::ui
+} // namespace quor::ui

@@ -1,0 +1,277 @@
+#include "core/datei_io.h"
+#include "core/listen_datei.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace quor {
+namespace {
+
+std::string LiesText(ListenLeser& l) {
+  std::string s;
+  EXPECT_TRUE(l.LeseText(s)) << "Zeile " << l.Zeile();
+  return s;
+}
+
+double LiesDouble(ListenLeser& l) {
+  double x = -999;
+  EXPECT_TRUE(l.LeseDouble(x)) << "Zeile " << l.Zeile();
+  return x;
+}
+
+bool GleicheBits(double a, double b) {
+  return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+TEST(ListenSchreiber, WritesLikeBasicWrite) {
+  ListenSchreiber w;
+  w.Text("a,b");
+  w.Zahl(0.1);
+  w.Zahl(1e-37);
+  w.Zahl(1e20);
+  w.Zahl(1e-5);
+  w.Ganz(-5);
+  w.Bool(true);
+  w.Bool(false);
+  w.ZeileEnde();
+  w.Text("sag \"hallo\"");
+  w.Zahl(0.1f);
+  w.Zahl(std::nan(""));
+  w.Zahl(-HUGE_VAL);
+  w.ZeileEnde();
+  w.Zahl(1.0);
+  w.Roh(";");
+  w.Zahl(2.5f);
+  w.Roh(" Ende");
+  w.ZeileEnde();
+  EXPECT_EQ(w.Utf8(), "\"a,b\",0.1,1E-37,1E+20,1E-05,-5,-1,0\r\n\"sag 'hallo'\",0.1,0,0\r\n1;2.5 Ende\r\n");
+}
+
+TEST(ListenSchreiber, FileBytesAreWindows1252) {
+  ListenSchreiber w;
+  w.Text("t/°C, 5 € – 中");
+  EXPECT_EQ(w.Bytes(), "\"t/\xB0"
+                       "C, 5 \x80 \x96 ?\"");
+  ListenLeser l(w.Bytes());
+  EXPECT_EQ(LiesText(l), "t/°C, 5 € – ?");
+}
+
+TEST(ListenDatei, NumbersRoundTripExactly) {
+  const std::vector<double> d = {0.1,    1e-300,   -0.0, 1.7976931348623157e308,
+                                 5e-324, -123.456, 1e20, 12345678.9};
+  const std::vector<float> f = {
+      0.1f,   3.4028235e38f, 1e-37f,       -7.25f, 1.17549435e-38f,
+      1e-45f, 16777217.0f,   7.038531e-26f}; // via double this one rounds twice and misses
+  ListenSchreiber w;
+  for (double x : d)
+    w.Zahl(x);
+  w.ZeileEnde();
+  for (float x : f)
+    w.Zahl(x);
+  ListenLeser l(w.Bytes());
+  for (double x : d)
+    EXPECT_TRUE(GleicheBits(LiesDouble(l), x)) << x;
+  for (float x : f) {
+    float y = 0;
+    EXPECT_TRUE(l.LeseFloat(y));
+    EXPECT_EQ(y, x);
+  }
+  EXPECT_TRUE(l.AmEnde());
+}
+
+TEST(ListenDatei, StringsRoundTripWithCommasQuotesAndBlanks) {
+  const std::vector<std::string> texte = {"a,b,c", "", "  vorn und hinten  ", "Müller ° ²", "x\"y", ","};
+  ListenSchreiber w;
+  for (const std::string& t : texte)
+    w.Text(t);
+  w.ZeileEnde();
+  ListenLeser l(w.Bytes());
+  for (const std::string& t : texte)
+    EXPECT_EQ(LiesText(l), t == "x\"y" ? "x'y" : t);
+  std::string s;
+  EXPECT_FALSE(l.LeseText(s));
+}
+
+TEST(ListenDatei, Int16IsRoundedHalfToEvenAndRangeChecked) {
+  ListenLeser l("32767,-32768,32768,-32769,2.5,3.5,-2.5,32767.5,-32768.5,1e3,\"7,6\",abc,");
+  const int16_t erwartet[] = {32767, -32768, 0, 0, 2, 4, -2, 0, -32768, 1000, 8, 0};
+  const bool ok[] = {true, true, false, false, true, true, true, false, true, true, true, false};
+  for (std::size_t i = 0; i < 12; ++i) {
+    int16_t x = 0;
+    EXPECT_EQ(l.LeseInt16(x), ok[i]) << i;
+    if (ok[i]) {
+      EXPECT_EQ(x, erwartet[i]) << i;
+    }
+  }
+  int16_t x = 0;
+  EXPECT_FALSE(l.LeseInt16(x));
+}
+
+TEST(ListenDatei, BooleansAndFloatRange) {
+  ListenSchreiber w;
+  w.Bool(true);
+  w.Bool(false);
+  w.Roh(",1,#TRUE#,#false#,ja,,3.4028235e38,-3.4028236e38");
+  ListenLeser l(w.Utf8());
+  const bool erwartet[] = {true, false, true, true, false};
+  for (bool e : erwartet) {
+    bool b = !e;
+    EXPECT_TRUE(l.LeseBool(b));
+    EXPECT_EQ(b, e);
+  }
+  bool b = true;
+  EXPECT_FALSE(l.LeseBool(b)); // "ja"
+  EXPECT_TRUE(l.LeseBool(b));  // empty field
+  EXPECT_FALSE(b);
+  float f = 0;
+  EXPECT_TRUE(l.LeseFloat(f)); // above the largest float, but rounds to it
+  EXPECT_EQ(f, 3.4028235e38f);
+  EXPECT_FALSE(l.LeseFloat(f)); // beyond half an ulp: would be -inf
+}
+
+// The same values in files with the three kinds of line end.
+TEST(ListenDatei, LineEndsCrLfLfAndCrReadAlike) {
+  for (const char* ende : {"\r\n", "\n", "\r"}) {
+    auto mit = [&](std::string t) {
+      for (std::size_t p; (p = t.find('|')) != std::string::npos;)
+        t.replace(p, 1, ende);
+      return t;
+    };
+    ListenLeser l(mit("07.01.2024|<>|| 3 |1.5, 2,|||\"x, y\" rest|-1,\"ende"));
+    std::string s;
+    EXPECT_TRUE(l.LeseZeile(s));
+    EXPECT_EQ(s, "07.01.2024");
+    EXPECT_TRUE(l.LeseZeile(s));
+    EXPECT_EQ(s, "<>");
+    EXPECT_TRUE(l.LeseZeile(s));
+    EXPECT_EQ(s, "");
+    int16_t n = 0;
+    EXPECT_TRUE(l.LeseInt16(n));
+    EXPECT_EQ(n, 3);
+    EXPECT_EQ(l.Zeile(), 4u);
+    EXPECT_EQ(LiesDouble(l), 1.5);
+    EXPECT_EQ(LiesDouble(l), 2.0); // the comma at the line end makes no empty field
+    EXPECT_EQ(LiesText(l), "x, y");
+    EXPECT_EQ(l.Zeile(), 8u); // two empty lines skipped
+    bool b = false;
+    EXPECT_TRUE(l.LeseBool(b));
+    EXPECT_TRUE(b);
+    EXPECT_EQ(LiesText(l), "ende"); // unterminated quote: up to the end
+    EXPECT_TRUE(l.AmEnde());
+    EXPECT_FALSE(l.LeseText(s));
+    EXPECT_FALSE(l.LeseZeile(s));
+  }
+}
+
+TEST(ListenDatei, FieldRulesOfBasicInput) {
+  ListenLeser l("  ab c  ,,\"1,5\",1,5,\"q\"x y,7\r\n1.5 2.5\t-3\r\n\"\",  \r\n   \r\n9");
+  EXPECT_EQ(LiesText(l), "ab c");
+  EXPECT_EQ(LiesDouble(l), 0.0); // empty field between two commas
+  EXPECT_EQ(LiesDouble(l), 1.5); // decimal comma inside quotes
+  EXPECT_EQ(LiesDouble(l), 1.0); // unquoted: the comma ends the field
+  EXPECT_EQ(LiesDouble(l), 5.0);
+  EXPECT_EQ(LiesText(l), "q"); // text behind the closing quote is dropped
+  EXPECT_EQ(LiesDouble(l), 7.0);
+  EXPECT_EQ(LiesDouble(l), 1.5); // numbers also end at blanks
+  EXPECT_EQ(LiesDouble(l), 2.5);
+  EXPECT_EQ(LiesDouble(l), -3.0);
+  EXPECT_EQ(LiesDouble(l), 0.0); // "" as a number
+  EXPECT_EQ(LiesDouble(l), 9.0); // blank lines between values skipped
+  EXPECT_TRUE(l.AmEnde());
+  ListenLeser z("5,  \r\nZeile zwei\r\n");
+  EXPECT_EQ(LiesDouble(z), 5.0);
+  std::string s;
+  EXPECT_TRUE(z.LeseZeile(s)); // the trailing comma took its line end along
+  EXPECT_EQ(s, "Zeile zwei");
+}
+
+TEST(ListenDatei, BadOrTruncatedInputFailsWithoutStopping) {
+  ListenLeser l("abc,4\r\n5x");
+  double x = 0;
+  EXPECT_FALSE(l.LeseDouble(x)); // a failed read moves past its field
+  EXPECT_EQ(LiesDouble(l), 4.0);
+  EXPECT_FALSE(l.LeseDouble(x));
+  EXPECT_FALSE(l.LeseDouble(x)); // past the end, again and again
+  for (const std::string& leer : {std::string(""), std::string(" \r\n\t\r\n")}) {
+    ListenLeser e(leer);
+    std::string s;
+    EXPECT_TRUE(e.AmEnde());
+    EXPECT_FALSE(e.LeseText(s));
+  }
+}
+
+TEST(ListenDatei, SurvivesNulHugeLinesAndRandomBytes) {
+  ListenLeser n(std::string("a\0b,\"c\0", 7));
+  EXPECT_EQ(LiesText(n), std::string("a\0b", 3));
+  EXPECT_EQ(LiesText(n), std::string("c\0", 2));
+  ListenLeser gross(std::string(1000000, 'z'));
+  EXPECT_EQ(LiesText(gross).size(), 1000000u);
+  std::mt19937 zufall(42);
+  for (int k = 0; k < 2000; ++k) {
+    std::string b(zufall() % 64, '\0');
+    for (char& c : b)
+      c = "0,.\"\r\n -#Ee5\xFF\xC3"[zufall() % 15];
+    ListenLeser l(b);
+    std::size_t lesungen = 0;
+    std::string s;
+    while (!l.AmEnde() && lesungen <= b.size())
+      (++lesungen % 2 ? l.LeseText(s) : l.LeseZeile(s));
+    EXPECT_LE(lesungen, b.size()) << "no progress on input " << k; // every read moves on
+  }
+}
+
+TEST(ListenDatei, Windows1252AndUtf8FilesBothRead) {
+  ListenLeser cp("\"M\xFCller\",\xB0"
+                 "C");
+  EXPECT_EQ(LiesText(cp), "Müller");
+  EXPECT_EQ(LiesText(cp), "°C");
+  ListenLeser u("\xEF\xBB\xBF\"M\xC3\xBCller\"");
+  EXPECT_EQ(LiesText(u), "Müller");
+}
+
+class DateiBytes : public ::testing::Test {
+protected:
+  void SetUp() override {
+    ordner_ =
+        std::filesystem::temp_directory_path() / ("quor_test_" + std::to_string(std::random_device{}()));
+    std::filesystem::create_directories(ordner_);
+  }
+  void TearDown() override { std::filesystem::remove_all(ordner_); }
+  std::string Pfad(const std::string& name) const { return (ordner_ / name).string(); }
+  std::filesystem::path ordner_;
+};
+
+TEST_F(DateiBytes, WholeFileRoundTrip) {
+  std::string alle;
+  for (int i = 0; i < 256; ++i)
+    alle += static_cast<char>(i);
+  std::string gelesen = "alt";
+  ASSERT_TRUE(SchreibeDateiBytes(Pfad("a.QC6"), alle));
+  EXPECT_TRUE(DateiExistiert(Pfad("a.QC6")));
+  ASSERT_TRUE(LeseDateiBytes(Pfad("a.QC6"), gelesen));
+  EXPECT_EQ(gelesen, alle);
+  ASSERT_TRUE(SchreibeDateiBytes(Pfad("a.QC6"), "")); // replaces, not appends
+  ASSERT_TRUE(LeseDateiBytes(Pfad("a.QC6"), gelesen));
+  EXPECT_EQ(gelesen, "");
+}
+
+TEST_F(DateiBytes, FailuresReturnFalse) {
+  std::string b = "alt";
+  EXPECT_FALSE(LeseDateiBytes(Pfad("fehlt/x.BAQ"), b));
+  EXPECT_EQ(b, "");
+  EXPECT_FALSE(SchreibeDateiBytes(Pfad("fehlt/x.BAQ"), "1"));
+  EXPECT_FALSE(DateiExistiert(Pfad("fehlt/x.BAQ")));
+  EXPECT_FALSE(DateiExistiert(ordner_.string())); // a directory is no file
+  EXPECT_FALSE(LeseDateiBytes(ordner_.string(), b));
+  EXPECT_FALSE(SchreibeDateiBytes(ordner_.string(), "1"));
+  EXPECT_FALSE(LeseDateiBytes("", b));
+}
+
+} // namespace
+} // namespace quor
