@@ -22,7 +22,7 @@ int main(int argc, char* argv[]) {
 
   quor::ProjectState state;
   quor::InitProjectState(state);
-  quor::ui::QtOberflaeche oberflaeche(nullptr, programmVerzeichnis + "/hilfe");
+  quor::ui::QtOberflaeche oberflaeche(nullptr, programmVerzeichnis + "/help");
   quor::ui::mdiQUOR fenster(state, oberflaeche);
   oberflaeche.SetzeEltern(&fenster);
   fenster.show();

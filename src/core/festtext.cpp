@@ -38,11 +38,13 @@ std::string RechtsBuendig(std::string_view utf8, std::size_t breite) {
   return ergebnis;
 }
 
-std::string Trim(std::string_view text) {
+std::string_view TrimAnsicht(std::string_view text) {
   const auto anfang = text.find_first_not_of(" \t");
   if (anfang == std::string_view::npos) return {};
   const auto ende = text.find_last_not_of(" \t");
-  return std::string(text.substr(anfang, ende - anfang + 1));
+  return text.substr(anfang, ende - anfang + 1);
 }
+
+std::string Trim(std::string_view text) { return std::string(TrimAnsicht(text)); }
 
 } // namespace quor

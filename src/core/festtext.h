@@ -16,7 +16,8 @@ std::string FestText(std::string_view utf8, std::size_t breite);
 // The text padded with blanks on the left to at least `breite` characters (right-justified).
 std::string RechtsBuendig(std::string_view utf8, std::size_t breite);
 
-// The text without blanks at both ends.
+// The text without blanks and tabs at both ends.
 std::string Trim(std::string_view text);
+std::string_view TrimAnsicht(std::string_view text);
 
 } // namespace quor

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "core/festtext.h"
 #include "core/text_kodierung.h"
 #include "core/zahl_lesen.h"
 
@@ -17,13 +18,6 @@ bool IstLeerOderZeilenende(char c) {
   return IstLeer(c) || c == '\r' || c == '\n';
 }
 
-std::string_view Trimme(std::string_view t) {
-  while (!t.empty() && IstLeer(t.front()))
-    t.remove_prefix(1);
-  while (!t.empty() && IstLeer(t.back()))
-    t.remove_suffix(1);
-  return t;
-}
 
 bool GleichOhneGross(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
@@ -105,7 +99,7 @@ bool ListenLeser::LeseFeld(std::string& feld, bool zahl) {
   std::size_t anfang = pos_;
   while (pos_ < text_.size() && text_[pos_] != ',' && !IstZeilenende(pos_) && !(zahl && IstLeer(text_[pos_])))
     ++pos_;
-  feld = std::string(Trimme(std::string_view(text_).substr(anfang, pos_ - anfang)));
+  feld = std::string(TrimAnsicht(std::string_view(text_).substr(anfang, pos_ - anfang)));
   if (zahl) UeberspringeLeer(); // a number followed by blanks and a further value on the line
   BeendeFeld();
   return true;
@@ -114,7 +108,7 @@ bool ListenLeser::LeseFeld(std::string& feld, bool zahl) {
 // Text of a number field, trimmed; an empty field stands for 0.
 bool ListenLeser::LeseZahlFeld(std::string& text) {
   if (!LeseFeld(text, true)) return false;
-  text = std::string(Trimme(text));
+  text = std::string(TrimAnsicht(text));
   if (text.empty()) text = "0";
   return true;
 }

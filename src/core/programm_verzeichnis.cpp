@@ -8,7 +8,7 @@ namespace quor {
 namespace fs = std::filesystem;
 
 const std::vector<std::string>& StandardDateien() {
-  static const std::vector<std::string> dateien = {"QUOR.Q07", "SYNOM7.TXT", "hilfe"};
+  static const std::vector<std::string> dateien = {"QUOR.Q07", "SYNOM7.TXT", "help"};
   return dateien;
 }
 

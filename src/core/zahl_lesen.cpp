@@ -1,5 +1,7 @@
 #include "core/zahl_lesen.h"
 
+#include "core/festtext.h"
+
 #include <charconv>
 #include <cmath>
 #include <system_error>
@@ -99,19 +101,12 @@ template <typename T> bool Wandle(const Gescannt& g, T& wert) {
   return true;
 }
 
-std::string_view Trimme(std::string_view t) {
-  while (!t.empty() && IstLeer(t.front()))
-    t.remove_prefix(1);
-  while (!t.empty() && IstLeer(t.back()))
-    t.remove_suffix(1);
-  return t;
-}
 
 } // namespace
 
 ZahlErgebnis LeseZahl(std::string_view text) {
   ZahlErgebnis erg;
-  std::string_view t = Trimme(text);
+  std::string_view t = TrimAnsicht(text);
   Gescannt g = Scanne(t);
   if (g.laenge == 0 || g.laenge != t.size()) {
     erg.rest = std::string(t.substr(g.laenge));
@@ -128,7 +123,7 @@ ZahlErgebnis LeseZahl(std::string_view text) {
 }
 
 bool LeseZahlFloat(std::string_view text, float& wert) {
-  std::string_view t = Trimme(text);
+  std::string_view t = TrimAnsicht(text);
   Gescannt g = Scanne(t);
   return g.laenge != 0 && g.laenge == t.size() && Wandle(g, wert);
 }
