@@ -45,6 +45,8 @@ std::string_view TrimAnsicht(std::string_view text) {
   return text.substr(anfang, ende - anfang + 1);
 }
 
-std::string Trim(std::string_view text) { return std::string(TrimAnsicht(text)); }
+std::string Trim(std::string_view text) {
+  return std::string(TrimAnsicht(text));
+}
 
 } // namespace quor

@@ -18,7 +18,6 @@ bool IstLeerOderZeilenende(char c) {
   return IstLeer(c) || c == '\r' || c == '\n';
 }
 
-
 bool GleichOhneGross(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   for (std::size_t i = 0; i < a.size(); ++i) {

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "core/datenbank_gruppe.h"
+#include "core/messdaten_gruppe.h"
 #include "core/substance_record.h"
 
 namespace quor {
@@ -144,6 +145,8 @@ struct ProjectState {
   OptionenGruppe Optionen;
   Tabellen Tab;
   DatenbankGruppe Datenbank;
+  MessdatenGruppe Mess;
+  int16_t RechenArt = 0; // kind of the state calculation on show
 };
 
 // The parameter set-up of the equation of state lives in the engine, which sits above this layer;

@@ -101,7 +101,6 @@ template <typename T> bool Wandle(const Gescannt& g, T& wert) {
   return true;
 }
 
-
 } // namespace
 
 ZahlErgebnis LeseZahl(std::string_view text) {

@@ -1,0 +1,154 @@
+// The reference-state dialog: what it shows on opening by model and energy unit, the proposal of the
+// reference pressure, its options, and what OK stores.
+#include "calc/frm_referenz.h"
+#include "core/zahlformat.h"
+#include "engine/referenz.h"
+#include "engine/stoffe.h"
+#include "support/relativ.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+struct Dialog {
+  ProjectState s;
+  ui::SkriptOberflaeche ui;
+  frmReferenz frm{s, ui};
+  explicit Dialog(ProjectState zustand) : s(std::move(zustand)) {}
+};
+
+// The reference pressure, when none is set, is the EOS's saturation pressure at TRef; above TKrit,
+// and for models without a liquid, normal pressure. The hint on that proposal shows for cubic
+// models below TKrit only. Nothing of it is a message.
+TEST(frmReferenz, ProposesTheReferencePressureFromTheEquation) {
+  Dialog wasser(ZustandMit(Wasser, 6));
+  wasser.frm.Form_Load();
+  int16_t err = -1;
+  EXPECT_EQ(wasser.s.Referenz.pRef, static_cast<float>(Saettigungsdruck(wasser.s, 298.15f, err)));
+  EXPECT_EQ(err, 0);
+  EXPECT_LT(wasser.s.Referenz.pRef, 10.0f);
+  EXPECT_TRUE(wasser.frm.HinweisPoVisible);
+  EXPECT_EQ(wasser.frm.T[3], SingleText(wasser.s.Referenz.pRef));
+
+  Dialog methan(ZustandMit(Methan, 6)); // TRef above TKrit
+  methan.frm.Form_Load();
+  EXPECT_EQ(methan.s.Referenz.pRef, 101.325f);
+  EXPECT_FALSE(methan.frm.HinweisPoVisible);
+
+  Dialog virial(ZustandMit(Wasser, 14));
+  virial.frm.Form_Load();
+  EXPECT_EQ(virial.s.Referenz.pRef, 101.325f);
+  EXPECT_FALSE(virial.frm.HinweisPoVisible);
+  EXPECT_TRUE(wasser.ui.protokoll.empty() && methan.ui.protokoll.empty() && virial.ui.protokoll.empty());
+
+  Dialog gesetzt(ZustandMit(Wasser, 6));
+  gesetzt.s.Referenz.pRef = 50;
+  gesetzt.frm.Form_Load();
+  EXPECT_EQ(gesetzt.s.Referenz.pRef, 50.0f);
+}
+
+// h and s are shown in the energy unit of the display, with TRef (not TVorgabe) in h/(R T).
+TEST(frmReferenz, ShowsReferenceValuesInTheEnergyUnit) {
+  const std::array<std::pair<const char*, const char*>, 4> labels{{{"h /(kJ/kmol)", "s /(kJ/kmol/K)"},
+                                                                   {"h /K", "s /R"},
+                                                                   {"h /(R T)", "s /(1/K) "},
+                                                                   {"h /(kJ/kg)", "s /(kJ/(kg K))"}}};
+  const std::array<double, 4> faktoren{1, 1 / RGas, 1 / (300 * RGas), 1 / 18.015};
+  for (int16_t mode = 0; mode < 4; ++mode) {
+    Dialog d(ZustandMit(Wasser, 6));
+    d.s.Einheiten.EnergieMode = mode;
+    d.s.Einheiten.TVorgabe = 500;
+    d.s.Referenz.TRef = 300;
+    d.s.Referenz.hRef = 1000;
+    d.s.Referenz.sRef = 10;
+    d.frm.Form_Load();
+    EXPECT_EQ(d.frm.bz7[0], labels[mode].first);
+    EXPECT_EQ(d.frm.bz7[1], labels[mode].second);
+    EXPECT_REL(d.frm.Faktor, faktoren[mode], 1e-6);
+    EXPECT_EQ(d.frm.T[0], SingleText(static_cast<float>(1000 * d.frm.Faktor)));
+    EXPECT_EQ(d.frm.T[1], SingleText(static_cast<float>(10 * d.frm.Faktor)));
+    EXPECT_EQ(d.frm.T[4], "298.15");
+    EXPECT_EQ(d.frm.T[5], "101.325");
+  }
+}
+
+// The conventional normalisation needs h and g of formation, the formation reference h and s; the
+// kind in the state is the selected option.
+TEST(frmReferenz, OptionsFollowTheFormationData) {
+  Dialog d(ZustandMit(Wasser, 6));
+  d.s.Stoff.hBildung = -241820;
+  d.s.Stoff.gBildung = -228590;
+  d.s.Referenz.RefArt = RefKonventionell;
+  d.frm.Form_Load();
+  EXPECT_EQ(d.frm.opt_HNull_Enabled, (std::array<bool, 3>{true, true, false}));
+  EXPECT_EQ(d.frm.opt_HNull, 1);
+
+  d.s.Stoff.gBildung = 0;
+  d.s.Stoff.sBildung = 188.8f;
+  d.s.Referenz.RefArt = RefBildung;
+  d.frm.Form_Load();
+  EXPECT_EQ(d.frm.opt_HNull_Enabled, (std::array<bool, 3>{true, false, true}));
+  EXPECT_EQ(d.frm.opt_HNull, 2);
+}
+
+// Option 1 sets To and po at once; the four reference fields are editable only under option 0.
+TEST(frmReferenz, OptionClickRefillsAndLocksTheFields) {
+  Dialog d(ZustandMit(Wasser, 6));
+  d.s.Referenz.TRef = 350;
+  d.s.Referenz.pRef = 40;
+  d.frm.Form_Load();
+  EXPECT_EQ(d.frm.T_Enabled, (std::array<bool, 6>{true, true, true, true, true, true}));
+  d.frm.opt_HNull_Click(2);
+  EXPECT_EQ(d.s.Referenz.TRef, 350.0f); // the formation kind overrides at evaluation only
+  EXPECT_EQ(d.frm.T_Enabled, (std::array<bool, 6>{false, false, false, false, true, true}));
+  d.frm.opt_HNull_Click(1);
+  EXPECT_EQ(d.s.Referenz.TRef, 298.15f);
+  EXPECT_EQ(d.s.Referenz.pRef, 101.325f);
+  EXPECT_EQ(d.frm.T[2], "298.15");
+  EXPECT_EQ(d.frm.T[3], "101.325");
+  d.frm.opt_HNull_Click(0);
+  EXPECT_TRUE(d.frm.T_Enabled[0] && d.frm.T_Enabled[3]);
+}
+
+// OK reads the fields with either decimal mark, divides h and s by the energy factor, stores a
+// T(u) of 0 as 1e-6 and takes the kind from the option; ESC stores nothing.
+TEST(frmReferenz, OkStoresTheFields) {
+  Dialog d(ZustandMit(Wasser, 6));
+  d.s.Einheiten.EnergieMode = 1; // per R
+  d.frm.Form_Load();
+  d.frm.T = {"1,5", "0.25", "310,5", "200", "0", "99,9"};
+  EXPECT_TRUE(d.frm.OK_Click());
+  EXPECT_TRUE(d.frm.Geschlossen);
+  const ReferenzGruppe& r = d.s.Referenz;
+  EXPECT_REL(r.hRef, 1.5 * RGas, 1e-12);
+  EXPECT_REL(r.sRef, 0.25 * RGas, 1e-12);
+  EXPECT_EQ(r.TRef, 310.5f);
+  EXPECT_EQ(r.pRef, 200.0f);
+  EXPECT_EQ(r.TUmgebung, 1e-6);
+  EXPECT_EQ(r.pUmgebung, 99.9);
+  EXPECT_EQ(r.RefArt, RefBenutzer);
+
+  Dialog e(ZustandMit(Wasser, 6));
+  e.s.Stoff.hBildung = -241820;
+  e.s.Stoff.gBildung = -228590;
+  e.frm.Form_Load();
+  e.frm.opt_HNull_Click(1);
+  e.frm.T[4] = "kein Wert"; // a field that is no number keeps its value
+  e.frm.OK_Click();
+  EXPECT_EQ(e.s.Referenz.RefArt, RefKonventionell);
+  EXPECT_EQ(e.s.Referenz.TUmgebung, 298.15);
+
+  Dialog f(ZustandMit(Wasser, 6));
+  f.frm.Form_Load();
+  f.frm.T[5] = "1";
+  f.frm.ESC_Click();
+  EXPECT_TRUE(f.frm.Geschlossen);
+  EXPECT_EQ(f.s.Referenz.pUmgebung, 101.325);
+}
+
+} // namespace
+} // namespace quor

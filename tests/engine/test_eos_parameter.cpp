@@ -1,0 +1,163 @@
+// Set-up of the cubic models: critical-point conditions, the textbook constants of the
+// denominators, failure paths and the parameter report.
+#include "core/zahlformat.h"
+#include "engine/eos_auswertung.h"
+#include "engine/kubisch.h"
+#include "engine/stoffe.h"
+#include "support/relativ.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+// At TKrit and pKrit the cubic has a triple root at vKritEOS (for Peng/Robinson the table's
+// rounded z = 0.3074 against the exact 0.307401). Near a triple root the cubic is flat to the cube
+// root of the rounding (about 5e-6), so that is all the Newton root can attain.
+TEST(EOSParameter, RootsMeetAtTheCriticalVolumeForEveryCubicRow) {
+  for (const StoffDaten& stoff : {Methan, Wasser, Eikosan}) {
+    for (int16_t index : KubischeZeilen) {
+      ProjectState s = ZustandMit(stoff, index);
+      EOSbeiT(s, stoff.TKrit);
+      int16_t nRoots = 0, err = 0;
+      KubischeWurzeln(s, stoff.TKrit, stoff.pKrit, nRoots, err);
+      ASSERT_EQ(err, 0);
+      EXPECT_REL(s.EOS.VRoots[0], s.EOS.vKritEOS, 5e-5) << stoff.name << " " << index;
+      EXPECT_REL(s.EOS.VRoots[nRoots == 3 ? 2 : 0], s.EOS.vKritEOS, 5e-5) << stoff.name << " " << index;
+      EXPECT_REL(s.EOS.rhoKritEOS, stoff.MolMasse / s.EOS.vKritEOS, 1e-12);
+    }
+  }
+}
+
+// Peng and Robinson (1976): Omega_a = 0.45724, Omega_b = 0.07780, to more digits 0.457235529 and
+// 0.0777960739 (the exact root of their critical conditions); (v+c)*(v+d) = v^2 + 2*b*v - b^2.
+// Redlich and Kwong (1949): Omega_a = 0.42748, Omega_b = 0.08664, denominator v*(v+b), a ~ T^-0.5;
+// Soave the same with a(T) of the Soave form. Slopes at omega = 0: 0.37464 and 0.48.
+TEST(EOSParameter, ConstantsOfTheDenominators) {
+  const double Tc = OhneOmega.TKrit, pc = OhneOmega.pKrit;
+  ProjectState pr = ZustandMit(OhneOmega, 6);
+  EXPECT_REL(pr.EOS.a0 * pc / (RGas * RGas * Tc * Tc), 0.457235529, 1e-8);
+  EXPECT_REL(pr.EOS.b0 * pc / (RGas * Tc), 0.0777960739, 1e-8);
+  EXPECT_REL(pr.EOS.c0 + pr.EOS.d0, 2 * pr.EOS.b0, 1e-14);
+  EXPECT_REL(pr.EOS.c0 * pr.EOS.d0, -pr.EOS.b0 * pr.EOS.b0, 1e-14);
+  EXPECT_EQ(pr.EOS.aForm, 2);
+  EXPECT_EQ(pr.EOS.aExp, 0.37464);
+  for (int16_t index : {4, 5}) {
+    ProjectState s = ZustandMit(OhneOmega, index);
+    EXPECT_EQ(s.EOS.c0, 0.0);
+    EXPECT_EQ(s.EOS.d0, s.EOS.b0);
+    EXPECT_REL(s.EOS.b0 * pc / (RGas * Tc), 0.08664, 5e-5);
+    EXPECT_REL(s.EOS.a0 * pc / (RGas * RGas * std::pow(Tc, index == 4 ? 2.5 : 2.0)), 0.42748, 2e-5);
+    EXPECT_EQ(s.EOS.aForm, index == 4 ? 1 : 2);
+    EXPECT_EQ(s.EOS.aExp, index == 4 ? -0.5 : 0.48);
+  }
+  // The virial rows keep the constants of their cubic branch but have no critical volume.
+  EXPECT_EQ(ZustandMit(OhneOmega, 15).EOS.a0, pr.EOS.a0);
+  EXPECT_EQ(ZustandMit(OhneOmega, 15).EOS.vKritEOS, 0.0);
+  EXPECT_EQ(ZustandMit(OhneOmega, 0).EOS.rhoKritEOS, 0.0);
+}
+
+TEST(EOSParameter, SetUpWipesHandInputAndSkipsMissingCriticalData) {
+  ProjectState s = ZustandMit(Methan, 10);
+  s.EOS.b0 = 0.05;
+  s.EOS.BExpHand = 1.5;
+  ui::SkriptOberflaeche ui;
+  int16_t err = 5;
+  EOSParameterSetup(s, ui, 10, err);
+  EXPECT_EQ(err, 0);
+  EXPECT_EQ(s.EOS.b0, 0.0);
+  EXPECT_EQ(s.EOS.BExpHand, 0.0);
+  // Without pKrit the set-up returns at once: err and constants untouched.
+  s = ZustandMit(Methan, 6);
+  const double a0 = s.EOS.a0;
+  s.Stoff.pKrit = 0;
+  err = 7;
+  EOSParameterSetup(s, ui, 2, err);
+  EXPECT_EQ(err, 7);
+  EXPECT_EQ(s.EOS.a0, a0);
+  EXPECT_TRUE(ui.Meldungen().empty());
+}
+
+TEST(EOSParameter, FailuresBecomeTheFlagAndTheirMessages) {
+  ProjectState s = ZustandMit(Methan, 2);
+  s.Stoff.TKrit = 1e200; // a0 overflows
+  s.Stoff.pKrit = 1e-100;
+  ui::SkriptOberflaeche ui;
+  int16_t err = 0;
+  EOSParameterSetup(s, ui, 2, err);
+  EXPECT_GT(err, 0);
+  EXPECT_EQ(s.EOS.a0, 0.0);
+  EXPECT_EQ(s.EOS.vKritEOS, 0.0);
+  // The Varnik/Ji rows without a parameter file.
+  s = ZustandMit(Methan, 2);
+  s.Modell.EOSIndex = 8;
+  EOSParameterSetup(s, ui, 8, err);
+  EXPECT_GT(err, 0);
+  EXPECT_EQ(s.EOS.vKritEOS, 0.0);
+  const auto m = ui.Meldungen();
+  ASSERT_EQ(m.size(), 3u);
+  EXPECT_EQ(m[0].text, "Fehler bei der EOS-Parameterberechnung");
+  EXPECT_EQ(m[1].text, "Kein Parameterfile erzeugt.");
+  EXPECT_EQ(m[2].text, "Fehler bei der EOS-Parameterberechnung (Varnik-Ji-Modell)");
+  for (const auto& meldung : m)
+    EXPECT_EQ(meldung.titel, "Ausführung nicht möglich");
+}
+
+// The denominator (v+c)*(v+d) = v^2 + u*b*v - u*b^2 with u = JiU; at T = TKrit alpha = 1 exactly
+// and both models agree; away from it only model II moves b, c, d.
+TEST(VarnikJi, DenominatorAndTheTwoModels) {
+  ProjectState eins = ZustandMit(Methan, 7), zwei = ZustandMit(Methan, 8);
+  EOSbeiT(eins, 150);
+  const double u = eins.EOS.JiParameter[JiU], b = eins.EOS.bT;
+  EXPECT_REL(eins.EOS.cT + eins.EOS.dT, u * b, 1e-14);
+  EXPECT_REL(eins.EOS.cT * eins.EOS.dT, -u * b * b, 1e-14);
+  EOSbeiT(zwei, 150);
+  EXPECT_LT(zwei.EOS.bT, b);
+  EOSbeiT(eins, Methan.TKrit);
+  EOSbeiT(zwei, Methan.TKrit);
+  EXPECT_EQ(eins.EOS.aT, eins.EOS.JiParameter[JiA]);
+  EXPECT_EQ(zwei.EOS.aT, zwei.EOS.JiParameter[JiA]);
+  EXPECT_EQ(eins.EOS.bT, zwei.EOS.bT);
+  EXPECT_EQ(eins.EOS.dT, zwei.EOS.dT);
+  // Below z = 1/6 the closed form has no real root: flagged, nothing changed.
+  int16_t err = 0;
+  eins.EOS.JiParameter[JiZc] = 0.1;
+  JiKritischeKonstanten(eins, err);
+  EXPECT_EQ(err, -1);
+  EXPECT_EQ(eins.EOS.JiParameter[JiU], u);
+}
+
+TEST(ParameterEOSText, LinesOfEachKindOfModel) {
+  ProjectState s = ZustandMit(Methan, 6);
+  // The name keeps the blanks that pad it to the table's width; a1 is the slope m at
+  // omega = 0.0114: 0.37464 + 1.54226*0.0114 - 0.26992*0.0114^2 = 0.3921867.
+  const std::string kopf = "Parameter " + s.Tab.EOSNamen[6] +
+                           "\r\nfür Methan\r\na0 = " + SingleText(static_cast<float>(s.EOS.a0)) +
+                           "\r\na1 = 0.3921867\r\nb = b0 = ";
+  const std::string text = ParameterEOSText(s);
+  EXPECT_EQ(text.substr(0, kopf.size()), kopf);
+  EXPECT_NE(text.find("\r\nkrit. Volumen aus T(cr) und p(cr) berechnet:\r\n    v(cr, molar)/m^3/kmol = "),
+            std::string::npos);
+  EXPECT_NE(text.find("\r\n  (entspr. rho(cr)/kg/m^3 = " +
+                      SingleText(static_cast<float>(Methan.MolMasse / s.EOS.vKritEOS)) + ")"),
+            std::string::npos);
+  // Varnik/Ji: a..d at 298.15 K, above TKrit of methane, where model II scales d.
+  s = ZustandMit(Methan, 8);
+  ProjectState bei298 = s;
+  JiEOSbeiT(bei298, 298.15);
+  EXPECT_NE(ParameterEOSText(s).find("\r\nfür T/K = 298.15\r\n  (alle Parameter sind T-abhängig)\r\na = "),
+            std::string::npos);
+  EXPECT_NE(ParameterEOSText(s).find("\r\nd = " + SingleText(static_cast<float>(bei298.EOS.dT))),
+            std::string::npos);
+  s.Modell.EOSIndex = 7;
+  EXPECT_NE(ParameterEOSText(s).find("  (die Parameter b, c und d sind T-unabhängig)"), std::string::npos);
+  s = ZustandMit(Methan, 0);
+  EXPECT_EQ(ParameterEOSText(s), "Idealgasgleichung eingestellt");
+  s = ZustandMit(Methan, 16);
+  EXPECT_EQ(ParameterEOSText(s).substr(0, 37), "Parameter der PITZER/CURL-Gleichung\r\n");
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,167 @@
+// The PARTIAL reference point: Benson's approximation, the proposal by the data at hand on each of
+// its paths, with its report lines, and the validity flag.
+#include "core/zahlformat.h"
+#include "engine/korrelationen.h"
+#include "engine/referenz.h"
+#include "engine/stoffe.h"
+#include "support/relativ.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+// Benson: rho(L) = (ln(pc/p)*0.18327 + 1.981)*rho(cr); water at 101.3 kPa: ln(22064/101.3) = 5.38358,
+// so 2.96764*322 = 955.58 kg/m^3 (the measured value is 958.4).
+TEST(BensonNaeherung, LiquidDensityFromThePressure) {
+  EXPECT_NEAR(BensonNaeherung(101.3, 22064, 322), 955.58, 0.01);
+  EXPECT_REL(BensonNaeherung(22064, 22064, 322), 1.981 * 322, 1e-12);
+  EXPECT_EQ(BensonNaeherung(1e-6, 22064, 322), 0.0);
+}
+
+ProjectState Stoff(int16_t index, float TSiede = 373.15f) {
+  StoffDaten d = Wasser;
+  d.TSiede = TSiede;
+  ProjectState s = ZustandMit(d, index);
+  s.Stoff.RhoL = {};
+  return s;
+}
+
+std::vector<std::string> Zeilen(const std::string& text) {
+  std::vector<std::string> z;
+  std::size_t a = 0, e;
+  while ((e = text.find("\r\n", a)) != std::string::npos) {
+    z.push_back(text.substr(a, e - a));
+    a = e + 2;
+  }
+  z.push_back(text.substr(a));
+  return z;
+}
+
+struct Vorschlag {
+  double T = 0, p = 0, rhoV = 0, rhoL = 0;
+  std::vector<std::string> zeilen;
+  int16_t err = 0;
+};
+
+Vorschlag Vorschlagen(ProjectState& s) {
+  Vorschlag v;
+  std::string text;
+  PartialBezugspunkt(s, v.T, v.p, v.rhoV, v.rhoL, text, v.err);
+  v.zeilen = Zeilen(text);
+  return v;
+}
+
+// At the normal boiling point the liquid density comes from the database point there, from the
+// density polynomial, or from the single point and its slope, in that order.
+TEST(PartialBezugspunkt, LiquidDensityAtTheNormalBoilingPoint) {
+  ProjectState s = Stoff(6);
+  s.Stoff.RhoL = {958.4f, 0, 373.15f, 0, 0, 0, 0};
+  Vorschlag v = Vorschlagen(s);
+  ASSERT_EQ(v.err, 0);
+  EXPECT_EQ(v.T, 373.15f);
+  EXPECT_EQ(v.p, 101.3);
+  EXPECT_EQ(v.rhoL, 958.4f);
+  ASSERT_EQ(v.zeilen.size(), 4u);
+  EXPECT_EQ(v.zeilen[0], " T(ref)/K           = 373.15 (Normalsiede-T)");
+  EXPECT_EQ(v.zeilen[1], " p(LV)(ref)/kPa     = 101.325 (Normaldruck)");
+  EXPECT_EQ(v.zeilen[2], " rho(L)(ref)/kg/m^3 = 958.4 (aus Datenbank)");
+
+  s.Stoff.RhoL = {1300.0f, -0.9f, 300.0f, 0, 0, 0, 0}; // a point at 300 K with its slope
+  v = Vorschlagen(s);
+  EXPECT_REL(v.rhoL, 1300 - 0.9 * (373.15f - 300), 1e-7);
+  EXPECT_EQ(v.zeilen[2], " rho(L)(ref)/kg/m^3 = 1234.165 (berechnet aus dRho/dT)");
+
+  s.Stoff.RhoL = {0, 5.459f, 0.30542f, 0.081f, 0, 0, 0}; // Rackett form within a range
+  s.Stoff.RhoLTcr = 647.13f;
+  s.Stoff.RhoLGrenzen = {273, 647};
+  v = Vorschlagen(s);
+  int16_t f = 0;
+  EXPECT_EQ(v.rhoL, RhoL(s, 373.15f, false, f)); // the database function at the boiling point
+  EXPECT_NE(v.zeilen[2].find(" (aus Datenbank-Polynom rho(T))"), std::string::npos);
+}
+
+// Without a boiling point (or without a density there) the single density point gives T, and the
+// vapour-pressure equation p.
+TEST(PartialBezugspunkt, SingleDensityPoint) {
+  for (float TSiede : {0.0f, 373.15f}) {
+    ProjectState s = Stoff(6, TSiede);
+    s.Stoff.RhoL = {997.0f, 0, 298.15f, 0, 0, 0, 0};
+    s.Stoff.AntoineNd = {7.196213f, 1730.63f, 233.426f};
+    s.Modell.DampfdruckIndex = 1;
+    s.Modell.DampfdruckTag = "ALP";
+    const Vorschlag v = Vorschlagen(s);
+    ASSERT_EQ(v.err, 0);
+    EXPECT_EQ(v.T, 298.15f);
+    EXPECT_EQ(v.rhoL, 997.0);
+    int16_t f = 0;
+    EXPECT_EQ(v.p, pLV(s, 298.15f, 1, false, f));
+    ASSERT_EQ(v.zeilen.size(), 4u);
+    EXPECT_EQ(v.zeilen[0], "T(ref)/K         = 298.15 (Datenbank-Einzelpunkt für Dichte)");
+    EXPECT_EQ(v.zeilen[1], " rho(L)(ref)/kg/m^3 = 997 (Datenbank-Einzelpunkt bei T(ref))");
+    EXPECT_EQ(v.zeilen[2], " pLV(ref)/kPa     = " + SingleText(static_cast<float>(v.p)) +
+                               " (bei T(ref) mit ALP-Gleichung)");
+  }
+  ProjectState ohne = Stoff(6, 0);
+  EXPECT_EQ(Vorschlagen(ohne).err, -1);
+  EXPECT_TRUE(Vorschlagen(ohne).zeilen == std::vector<std::string>{""});
+}
+
+// The vapour density: from the EOS; where it has no vapour root, the ideal gas (omega = 0) or the
+// Pitzer/Curl virial equation, B = (f0 + omega f1) R Tc/pc.
+TEST(PartialBezugspunkt, VapourDensityAndItsFallBacks) {
+  ProjectState s = Stoff(6);
+  s.Stoff.RhoL = {958.4f, 0, 373.15f, 0, 0, 0, 0};
+  Vorschlag v = Vorschlagen(s);
+  const Loesung l = Loese(s, 373.15f, 101.3);
+  EXPECT_REL(v.rhoV, l.rhoV, 1e-12);
+  EXPECT_EQ(v.zeilen[3], " rho(V)(ref)/kg/m^3 =" + std::string(" ") + SingleText(static_cast<float>(l.rhoV)) +
+                             " (aus CEOS Peng / Robinson)");
+
+  // van der Waals at Tr = 0.5 tops its vapour loop at 0.177 pc, 40 kPa for helium's critical data, so
+  // at 101.3 kPa only the liquid root is left (a helium with a boiling point of 2.6 K).
+  StoffDaten he = Helium;
+  he.TSiede = 2.6f;
+  ProjectState vdw = ZustandMit(he, 2);
+  vdw.Stoff.RhoL = {140.0f, 0, 2.6f, 0, 0, 0, 0};
+  ASSERT_FALSE(Loese(vdw, 2.6f, 101.3).istV);
+  v = Vorschlagen(vdw);
+  const double T = 2.6f, Tr = T / Helium.TKrit, omega = Helium.omega;
+  const double f0 = 0.1445 - 0.33 / Tr - 0.1385 / (Tr * Tr) - 0.0121 / std::pow(Tr, 3);
+  const double f1 = 0.073 + 0.46 / Tr - 0.5 / (Tr * Tr) - 0.097 / std::pow(Tr, 3) - 0.0073 / std::pow(Tr, 8);
+  const double B = (f0 + omega * f1) * RGas * Helium.TKrit / Helium.pKrit;
+  EXPECT_REL(v.rhoV, Helium.MolMasse / (RGas * T / 101.3 + B), 1e-9);
+  EXPECT_NE(v.zeilen[3].find(" (aus Virial-EOS, PITZER/CURL)"), std::string::npos);
+  EXPECT_EQ(vdw.Modell.EOSIndex, 2);
+
+  vdw.Stoff.omega = 0;
+  v = Vorschlagen(vdw);
+  EXPECT_REL(v.rhoV, Helium.MolMasse * 101.3 / (RGas * T), 1e-12);
+  EXPECT_NE(v.zeilen[3].find(" (aus Idealgas-EOS)"), std::string::npos);
+}
+
+TEST(BezugspunktBenson, FillsTheReferencePointAndItsReport) {
+  ProjectState s = Stoff(6);
+  s.Stoff.rhoKritExp = 322;
+  s.Referenz.BezugRhoV = 0.598f;
+  std::string text;
+  BezugspunktBenson(s, text);
+  EXPECT_EQ(s.Referenz.BezugT, 373.15f);
+  EXPECT_EQ(s.Referenz.BezugP, 101.335f);
+  EXPECT_EQ(s.Referenz.BezugRhoL, static_cast<float>(BensonNaeherung(101.3, 22064, 322)));
+  EXPECT_EQ(text, " T(ref)/K           = 373.2 (Normalsiedetemp.)\r\n"
+                  " p(LV)(ref)/kPa     = 101.325  (Normaldruck)\r\n"
+                  " rho(L)(ref)/kg/m^3 = 955.6 (BENSON-Näherung)\r\n"
+                  " rho(V)(ref)/kg/m^3 = .598 (CEOS Peng / Robinson)");
+  BezugGueltigSetzen(s);
+  EXPECT_TRUE(s.Referenz.BezugGueltig);
+  s.Referenz.BezugRhoV = 0;
+  BezugGueltigSetzen(s);
+  EXPECT_FALSE(s.Referenz.BezugGueltig);
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,160 @@
+// v(T,p) with its regions and phases, p(T,v) and T(p,rho), with their round trips.
+#include "engine/eos_auswertung.h"
+#include "engine/stoffe.h"
+#include "engine/virial.h"
+#include "support/relativ.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+// p of the generalised EOS, written out here to check the solver's roots.
+double Druck(const ProjectState& s, double T, double v) {
+  const EOSGruppe& e = s.EOS;
+  return RGas * T / (v - e.bT) - e.aT / ((v + e.cT) * (v + e.dT));
+}
+
+struct Fall {
+  double Tr, pr;
+  int16_t gebiet;
+  bool istL, istV;
+  const char* meldung;
+};
+
+// Peng/Robinson methane. One root in every region, the single-precision rule for p = pKrit;
+// three roots below, above and on the saturation pressure p(LV)(0.9 TKrit) = 2477.69 kPa.
+TEST(VzuTP, RegionsAndPhasesOfEveryBranch) {
+  const double pr = 2477.69 / Methan.pKrit;
+  const Fall faelle[] = {
+      {0.7, 0.6, 0, true, false, "1 V-Lösung der EOS"},                   // liquid above the loop
+      {0.95, 0.1, 0, false, true, "1 V-Lösung der EOS"},                  // vapour below the loop
+      {1.0, 0.3, 3, false, true, "1 V-Lösung der EOS"},                   // T = TKrit exactly
+      {0.7, 2.0, 1, true, true, "1 V-Lösung der EOS; überkritisch"},      // compressed
+      {1.5, 2.0, 2, true, true, "1 V-Lösung der EOS; überkritisch"},      // supercritical
+      {1.5, 0.3, 3, true, true, "1 V-Lösung der EOS; überkritisch"},      // superheated
+      {1.0, 1.0, 4, true, true, "1 V-Lösung der EOS; kritisch"},          // critical point
+      {0.9, 1 + 1e-9, 0, true, true, "1 V-Lösung der EOS; überkritisch"}, // p = pKrit in single precision
+      {0.9, 0.9 * pr, 0, false, true, "3 V-Lösungen der EOS"},
+      {0.9, 1.1 * pr, 0, true, false, "3 V-Lösungen der EOS"},
+      {0.9, pr, 0, true, true, "3 V-Lösungen der EOS"},
+  };
+  ProjectState s = ZustandMit(Methan, 6);
+  for (const Fall& f : faelle) {
+    SCOPED_TRACE("Tr " + std::to_string(f.Tr) + ", pr " + std::to_string(f.pr));
+    const double T = f.Tr * Methan.TKrit, p = f.pr * Methan.pKrit;
+    s.EOS.Gebiet = -9;
+    const Loesung l = Loese(s, T, p);
+    ASSERT_EQ(l.err, 0);
+    EXPECT_EQ(s.EOS.Gebiet, f.gebiet);
+    EXPECT_EQ(l.istL, f.istL);
+    EXPECT_EQ(l.istV, f.istV);
+    EXPECT_EQ(l.Meldung, f.meldung);
+    const double v = l.istL ? l.vL : l.vV;
+    EXPECT_REL(Druck(s, T, v), p, 1e-9);
+    EXPECT_REL(l.istL ? l.rhoL : l.rhoV, Methan.MolMasse / v, 1e-12);
+    if (l.nRoots == 3) {
+      EXPECT_REL(Druck(s, T, l.vV), p, 1e-9);
+    }
+  }
+}
+
+// Peng/Robinson's denominator vanishes at -(1+sqrt 2)*b and (sqrt 2-1)*b, so at low T and very
+// high p two more roots lie below b; only the largest is physical.
+TEST(VzuTP, TwoRootsBelowCoVolumeLeaveOnePhysicalRoot) {
+  ProjectState s = ZustandMit(Methan, 6);
+  const double T = 0.3 * Methan.TKrit, p = 75 * Methan.pKrit;
+  const Loesung l = Loese(s, T, p);
+  ASSERT_EQ(l.err, 0);
+  EXPECT_EQ(l.nRoots, 1);
+  EXPECT_GT(l.vL, s.EOS.bT);
+  EXPECT_REL(Druck(s, T, l.vL), p, 1e-9);
+  // The dropped middle root is still in VRoots[1]: a genuine root, below b.
+  EXPECT_LT(s.EOS.VRoots[1], s.EOS.bT);
+  EXPECT_REL(Druck(s, T, s.EOS.VRoots[1]), p, 1e-6);
+}
+
+// van der Waals depends on TKrit only through its constants: with TKrit lowered afterwards the
+// loop persists slightly above it, and a state on the equal-area line counts as vapour there.
+TEST(VzuTP, AboveTKritWithThreeRootsTheDeadBandGivesVapour) {
+  ProjectState s = ZustandMit(Methan, 2);
+  int16_t err = 0;
+  const double pSaett = Saettigungsdruck(s, 0.99 * Methan.TKrit, err);
+  s.Stoff.TKrit = 0.985 * Methan.TKrit;
+  const Loesung l = Loese(s, 0.99 * Methan.TKrit, pSaett);
+  ASSERT_EQ(l.err, 0);
+  EXPECT_EQ(l.nRoots, 3);
+  EXPECT_LT(std::fabs(l.Imbalance), 0.001);
+  EXPECT_TRUE(l.istV);
+  EXPECT_FALSE(l.istL);
+  EXPECT_EQ(s.EOS.Gebiet, 3);
+}
+
+TEST(VzuTP, VirialModelsGiveTheVapourOnlyAndKeepTheRegion) {
+  for (int16_t index : {0, 13, 16}) {
+    ProjectState s = ZustandMit(Methan, index);
+    s.EOS.Gebiet = 3;
+    const Loesung l = Loese(s, 250, 500);
+    ASSERT_EQ(l.err, 0);
+    EXPECT_EQ(l.Meldung, "EOS nur für die V-Phase anwendbar!");
+    EXPECT_TRUE(l.istV && !l.istL);
+    EXPECT_EQ(s.EOS.Gebiet, 3);
+    // v = R*T/p + B; for the ideal gas exactly R*T/p.
+    const double B = index == 0 ? 0.0 : BvonT(s, index, 250);
+    EXPECT_REL(l.vV, RGas * 250 / 500 + B, 1e-14);
+  }
+}
+
+TEST(PzuTV, RoundTripAndTheCoVolumeLimit) {
+  for (int16_t index : {4, 6, 8, 13}) {
+    ProjectState s = ZustandMit(Wasser, index);
+    const Loesung l = Loese(s, 500, 1500);
+    int16_t err = -1;
+    EXPECT_REL(PzuTV(s, 500, l.istV ? l.vV : l.vL, err), 1500, 1e-9) << index;
+    EXPECT_EQ(err, 0);
+  }
+  ProjectState s = ZustandMit(Wasser, 6);
+  EOSbeiT(s, 500);
+  int16_t err = 0;
+  EXPECT_EQ(PzuTV(s, 500, s.EOS.bT, err), 0.0);
+  EXPECT_EQ(err, -1);
+}
+
+TEST(TzuPRho, RoundTripsOfSingleStates) {
+  for (int16_t index : {2, 6, 7, 12, 16}) {
+    ProjectState s = ZustandMit(Methan, index);
+    // Liquid, vapour, supercritical fluid; the virial models only the last two.
+    for (const auto& [Tr, pr] : {std::pair{0.95, 0.1}, {1.5, 2.0}, {0.7, 0.6}}) {
+      if (s.Modell.VirialFlag && pr == 0.6) continue;
+      const Loesung l = Loese(s, Tr * Methan.TKrit, pr * Methan.pKrit);
+      int16_t err = -1;
+      const double T = TzuPRho(s, pr * Methan.pKrit, l.istV ? l.rhoV : l.rhoL, false, err);
+      EXPECT_REL(T, Tr * Methan.TKrit, 1e-4) << index << " " << Tr;
+      EXPECT_EQ(err, 0);
+    }
+  }
+}
+
+// Inside the dome the EOS isotherm through (p, v) is not the answer: the saturation temperature
+// is. 0.8 TKrit lies below pKrit/1.5 (search by TLVbeiP), 0.95 TKrit above (Newton on pLV).
+TEST(TzuPRho, InsideTheTwoPhaseRegionGivesTheSaturationTemperature) {
+  ProjectState s = ZustandMit(Methan, 6);
+  for (double Tr : {0.8, 0.95}) {
+    int16_t err = 0;
+    const double p = Saettigungsdruck(s, Tr * Methan.TKrit, err);
+    for (double anteil : {0.2, 0.5, 0.8}) {
+      const double v = s.EOS.VRoots[0] + anteil * (s.EOS.VRoots[2] - s.EOS.VRoots[0]);
+      ProjectState kopie = s;
+      EXPECT_REL(TzuPRho(kopie, p, Methan.MolMasse / v, false, err), Tr * Methan.TKrit, 1e-5) << Tr;
+      EXPECT_EQ(err, 0);
+      // Without the phase test the EOS isotherm through (p, v) is returned.
+      const double TEOS = TzuPRho(kopie, p, Methan.MolMasse / v, true, err);
+      EXPECT_REL(PzuTV(kopie, TEOS, v, err), p, 1e-4);
+    }
+  }
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,220 @@
+// Opening database files: the lists, the kinds, and every broken file ending in the user's message
+// with the earlier state kept.
+#include "core/text_kodierung.h"
+#include "rohdatei.h"
+#include "substance/datenbank.h"
+#include "substance/stoff_laden.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace quor {
+namespace {
+
+using test::RohDatei;
+using test::RohSatz;
+using test::TempVerzeichnis;
+
+RohSatz Stoff(int typ, int16_t nummer, const std::string& formel, const std::string& name,
+              const std::string& cas) {
+  RohSatz r(typ);
+  r.Formel(formel).Deutsch(name).Englisch("E-" + name).CAS(cas).Nummer(nummer);
+  r.Zelle(6, 190.56f).Zelle(7, 4599.f);
+  return r;
+}
+
+// Two substances; the second has a formula of 16 characters and a name padded with NUL.
+std::string ZweiStoffe(int typ) {
+  RohSatz b = Stoff(typ, 17, "C2H6O2CLxyzABCDE", std::string("Glykol;Ethylenglykol") + std::string(5, '\0'),
+                    "107-21-1");
+  return RohDatei(typ, 2, {Stoff(typ, 1, "CH4", "  Methan", "74-82-8"), b});
+}
+
+TEST(DatenbankOeffnen, BuildsTheFourListsFromEveryRecordOfBothKinds) {
+  for (int typ : {7, 6}) {
+    SCOPED_TRACE(typ);
+    TempVerzeichnis dir;
+    ProjectState s;
+    int16_t failed = 0;
+    bool leer = true;
+    const std::string pfad = dir.Datei("A.Q0x", ZweiStoffe(typ));
+    LadeDatenbank(s, typ, pfad, failed, leer);
+    ASSERT_EQ(failed, 0);
+    EXPECT_FALSE(leer);
+    const DatenbankGruppe& db = s.Datenbank;
+    EXPECT_TRUE(db.DatenbankGeladen);
+    EXPECT_EQ(db.DatenbankTyp, typ);
+    EXPECT_EQ(typ == 7 ? db.PfadQ07 : db.PfadQ06, pfad);
+    EXPECT_TRUE((typ == 7 ? db.PfadQ06 : db.PfadQ07).empty());
+    ASSERT_EQ(db.StoffAnzahl, 2);
+    ASSERT_EQ(db.NamenListe.size(), 3u); // indexed from 1
+    EXPECT_EQ(db.MDBNummern[1], 1);
+    EXPECT_EQ(db.MDBNummern[2], 17);
+    EXPECT_EQ(db.FormelListe[2], "C2H6O2CLxyzA"); // the first 12 of 16 characters
+    EXPECT_EQ(db.NamenListe[1], "Methan");        // trimmed on both sides
+    EXPECT_EQ(db.NamenListe[2], "Glykol;Ethylenglykol");
+    EXPECT_EQ(db.CASListe[2], "107-21-1");
+  }
+}
+
+TEST(DatenbankOeffnen, EnglishInterfaceTakesTheEnglishNames) {
+  ProjectState s;
+  s.Datenbank.EnglischeOberflaeche = true;
+  int16_t failed = 0;
+  bool leer = false;
+  LadeDatenbankAusBytes(s, 7, "A.Q07", ZweiStoffe(7), failed, leer);
+  ASSERT_EQ(failed, 0);
+  EXPECT_EQ(s.Datenbank.NamenListe[1], "E-  Methan");
+  LadeStoff(s, 2, failed);
+  EXPECT_EQ(s.Stoff.StoffName, "E-Glykol");
+}
+
+TEST(DatenbankOeffnen, NameWithoutDirectoryIsLookedUpInTheProgramDirectory) {
+  TempVerzeichnis dir;
+  dir.Datei("EIGEN.Q07", ZweiStoffe(7));
+  ProjectState s;
+  EXPECT_FALSE(DateiVorhanden(s, "EIGEN.Q07")); // no program directory: the working directory
+  s.Datenbank.ProgrammVerzeichnis = dir.Pfad();
+  EXPECT_TRUE(DateiVorhanden(s, "EIGEN.Q07"));
+  EXPECT_FALSE(DateiVorhanden(s, ""));
+  EXPECT_FALSE(DateiVorhanden(s, "FEHLT.Q07"));
+  EXPECT_FALSE(DateiVorhanden(s, dir.Pfad())); // a directory is no file
+  int16_t failed = 0;
+  bool leer = false;
+  LadeDatenbank(s, 7, "EIGEN.Q07", failed, leer);
+  EXPECT_EQ(failed, 0);
+  EXPECT_EQ(s.Datenbank.StoffAnzahl, 2);
+}
+
+TEST(DatenbankOeffnen, CountZeroIsAnEmptyDatabaseNotABrokenOne) {
+  TempVerzeichnis dir;
+  ProjectState s;
+  int16_t failed = 0;
+  bool leer = false;
+  LadeDatenbank(s, 7, dir.Datei("LEER.Q07", RohDatei(7, 0, {})), failed, leer);
+  EXPECT_EQ(failed, 0);
+  EXPECT_TRUE(leer);
+  EXPECT_FALSE(s.Datenbank.DatenbankGeladen);
+  EXPECT_EQ(s.Datenbank.StoffAnzahl, 0);
+}
+
+// Each broken file: its bytes.
+struct KaputteDatei {
+  const char* name;
+  std::string bytes;
+};
+
+std::vector<KaputteDatei> KaputteDateien() {
+  const std::string gut = ZweiStoffe(7);
+  return {
+      {"leere Datei", ""},
+      {"Kopf abgeschnitten", gut.substr(0, 385)},
+      {"Anzahl groesser als die Datei", RohDatei(7, 5, {Stoff(7, 1, "CH4", "Methan", "74-82-8")})},
+      {"letzter Satz abgeschnitten", gut.substr(0, gut.size() - 1)},
+      {"negative Anzahl", RohDatei(7, -3, {})},
+  };
+}
+
+TEST(DatenbankOeffnen, BrokenFilesFailWithTheMessageWhenNothingIsLoaded) {
+  TempVerzeichnis dir;
+  for (const KaputteDatei& k : KaputteDateien()) {
+    SCOPED_TRACE(k.name);
+    ProjectState s;
+    ui::SkriptOberflaeche ui;
+    const std::string pfad = dir.Datei("K.Q07", k.bytes);
+    EXPECT_FALSE(DatenbankOeffnen(s, 7, pfad, ui));
+    ASSERT_EQ(ui.Meldungen().size(), 1u);
+    EXPECT_EQ(ui.Letzte().text, "Datenbank " + pfad + " nicht gefunden bzw. leer");
+    EXPECT_EQ(ui.Letzte().titel, "Ausführung nicht möglich");
+    EXPECT_EQ(ui.Letzte().symbol, ui::Symbol::Kritisch);
+    EXPECT_FALSE(s.Datenbank.DatenbankGeladen);
+    EXPECT_EQ(s.Datenbank.StoffAnzahl, 0);
+    EXPECT_TRUE(s.Datenbank.PfadQ07.empty());
+  }
+}
+
+TEST(DatenbankOeffnen, BrokenOrMissingFileKeepsTheEarlierDatabase) {
+  TempVerzeichnis dir;
+  ProjectState s;
+  ui::SkriptOberflaeche ui;
+  const std::string gut = dir.Datei("GUT.Q07", ZweiStoffe(7));
+  ASSERT_TRUE(DatenbankOeffnen(s, 7, gut, ui));
+  std::vector<KaputteDatei> faelle = KaputteDateien();
+  faelle.push_back({"Anzahl 0", RohDatei(7, 0, {})});
+  for (const KaputteDatei& k : faelle) {
+    SCOPED_TRACE(k.name);
+    const std::string pfad = dir.Datei("K.Q07", k.bytes);
+    EXPECT_FALSE(DatenbankOeffnen(s, 7, pfad, ui));
+    EXPECT_EQ(ui.Letzte().text, "Datenbank " + pfad +
+                                    " im QUOR-Verzeichnis nicht gefunden bzw. leer.\r\n"
+                                    "Bereits geladene Datenbank wird weiter verwendet.");
+    EXPECT_EQ(ui.Letzte().titel, "Warnung");
+    EXPECT_EQ(ui.Letzte().symbol, ui::Symbol::Ausruf);
+    EXPECT_EQ(s.Datenbank.PfadQ07, gut);
+    EXPECT_EQ(s.Datenbank.StoffAnzahl, 2);
+    int16_t failed = 0;
+    LadeStoff(s, 2, failed);
+    EXPECT_EQ(s.Stoff.StoffName, "Glykol");
+  }
+  EXPECT_FALSE(DatenbankOeffnen(s, 7, dir.Pfad() + "/FEHLT.Q07", ui));
+  EXPECT_EQ(ui.Letzte().titel, "Warnung");
+  EXPECT_EQ(s.Datenbank.StoffAnzahl, 2);
+}
+
+TEST(DatenbankOeffnen, GarbageTextBytesBecomeCharactersAndNothingBreaks) {
+  std::string alleBytes;
+  for (int b = 1; b < 256; ++b)
+    alleBytes += static_cast<char>(b);
+  RohSatz r(7);
+  r.Formel(alleBytes.substr(120, 16))
+      .Deutsch(alleBytes.substr(128, 107))
+      .CAS(alleBytes.substr(0, 12))
+      .Nummer(3);
+  r.Struktur(alleBytes.substr(20, 107));
+  for (int i = 0; i < 141; ++i)
+    r.Zelle(i, i % 2 ? std::numeric_limits<float>::quiet_NaN() : -1e38f);
+  ProjectState s;
+  int16_t failed = 0;
+  bool leer = false;
+  LadeDatenbankAusBytes(s, 7, "X.Q07", RohDatei(7, 1, {r}), failed, leer);
+  ASSERT_EQ(failed, 0);
+  EXPECT_TRUE(IstUtf8(s.Datenbank.NamenListe[1]));
+  // 0x81 is undefined in Windows-1252 and stands for itself; 0x82 is the low quotation mark.
+  EXPECT_EQ(s.Datenbank.NamenListe[1].substr(0, 5), "\xC2\x81\xE2\x80\x9A");
+  LadeStoff(s, 1, failed);
+  EXPECT_EQ(failed, -1); // no critical temperature or pressure
+  EXPECT_TRUE(IstUtf8(s.Stoff.StoffName));
+  EXPECT_TRUE(IstUtf8(s.Stoff.Struktur));
+  EXPECT_EQ(s.Stoff.pKrit, 0.0); // NaN counts as empty
+  EXPECT_EQ(s.Stoff.omega, 0.0);
+  EXPECT_EQ(s.Stoff.CpPolyGrenzen.TLo, -32768); // a limit beyond 16 bits is held at its end
+  for (float x : {s.Stoff.AugustA, s.Stoff.AugustB, s.Stoff.DeltaFs, s.Stoff.MolMasse})
+    EXPECT_TRUE(std::isfinite(x));
+  EXPECT_TRUE(std::isfinite(s.Stoff.vKritExp));
+}
+
+TEST(DatenbankOeffnen, FileDialogOffersTheKindAndCancelLoadsNothing) {
+  TempVerzeichnis dir;
+  ProjectState s;
+  ui::SkriptOberflaeche ui;
+  bool cancelled = false;
+  WaehleDatenbank(s, 6, cancelled, ui);
+  EXPECT_TRUE(cancelled);
+  ASSERT_EQ(ui.dateiDialoge.size(), 1u);
+  EXPECT_EQ(ui.dateiDialoge[0].filter, "Datenbank (*.Q06|*.Q06");
+  EXPECT_EQ(ui.dateiDialoge[0].dateiName, "*.Q06");
+  EXPECT_EQ(ui.dateiDialoge[0].titel.rfind("Datenbank *.Q06 laden (", 0), 0u);
+  EXPECT_TRUE(ui.Meldungen().empty());
+
+  ui.dateien.push_back(dir.Datei("B.Q07", ZweiStoffe(7)));
+  WaehleDatenbank(s, 7, cancelled, ui);
+  EXPECT_FALSE(cancelled);
+  EXPECT_EQ(s.Datenbank.StoffAnzahl, 2);
+  EXPECT_EQ(ui.dateiDialoge[1].filter, "Datenbank (*.Q07|*.Q07");
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,67 @@
+// The correlated vapour-pressure sets: through the critical point and the normal boiling point,
+// and nothing without the data.
+#include "engine/korrelationen.h"
+#include "substance/korrelierte_parameter.h"
+#include "support/relativ.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+// Nitrogen: Tc 126.2 K, pc 3390 kPa, Tb 77.35 K.
+constexpr double Tc = 126.2, pc = 3390, Tb = 77.35;
+
+TEST(KorrelierteParameter, EachSetReproducesBothFixedPoints) {
+  ProjectState s;
+  s.Stoff.TKrit = Tc;
+  s.Stoff.pKrit = pc;
+  s.Stoff.TSiede = static_cast<float>(Tb);
+  for (int index : {5, 6, 7, 8}) {
+    SCOPED_TRACE(index);
+    KorrelierteParameter(s, index, Tc, pc, Tb);
+    int16_t failed = -1;
+    // Up to the single precision of the stored coefficients.
+    EXPECT_REL(pLV(s, Tc, index, false, failed), pc, 2e-5);
+    EXPECT_EQ(failed, 0);
+    EXPECT_REL(pLV(s, Tb, index, false, failed), pNormal, 2e-5);
+    EXPECT_REL(TLV(s, pNormal, index, false, failed), Tb, 1e-5);
+    EXPECT_EQ(failed, 0);
+  }
+}
+
+TEST(KorrelierteParameter, FixedPartsOfTheSets) {
+  ProjectState s;
+  KorrelierteParameter(s, 6, Tc, pc, Tb);
+  KorrelierteParameter(s, 7, Tc, pc, Tb);
+  KorrelierteParameter(s, 8, Tc, pc, Tb);
+  // E = k Tc^n / pc: 0.183218*126.2^2/3390 = 0.860770, 0.185652*126.2^2.5/3390 = 9.798246.
+  EXPECT_REL(s.Stoff.KFW[4], 0.860770, 1e-6);
+  EXPECT_EQ(s.Stoff.KFW[5], 2.0f);
+  EXPECT_REL(s.Stoff.KFR[4], 9.798246, 1e-6);
+  EXPECT_EQ(s.Stoff.KFR[5], 2.5f);
+  for (int i : {2, 6, 7, 8})
+    EXPECT_EQ(s.Stoff.KFR[i], 0.0f) << i;
+  // D = 1.8 B/Tc + 2.67.
+  EXPECT_REL(s.Stoff.KFW[3], 1.8 * s.Stoff.KFW[1] / Tc + 2.67, 1e-6);
+  // Thompson's C in kelvins: 18 - 0.19*77.35 + 273.15 = 276.4535.
+  EXPECT_REL(s.Stoff.THO[2], 276.4535, 1e-7);
+}
+
+TEST(KorrelierteParameter, NothingWithoutBoilingPointOrBelowIndexFive) {
+  ProjectState s;
+  for (int index : {5, 6, 7, 8})
+    KorrelierteParameter(s, index, Tc, pc, 0);
+  KorrelierteParameter(s, 8, 0, pc, Tb);
+  KorrelierteParameter(s, 4, Tc, pc, Tb);
+  EXPECT_EQ(s.Stoff.KFW, (std::array<float, 9>{}));
+  EXPECT_EQ(s.Stoff.KFR, (std::array<float, 9>{}));
+  EXPECT_EQ(s.Stoff.THO, (std::array<float, 3>{}));
+  EXPECT_EQ(s.Stoff.AugustA, 0.0f);
+  // With the boiling point equal to the critical temperature there is no finite set to store.
+  KorrelierteParameter(s, 6, Tc, pc, Tc);
+  EXPECT_EQ(s.Stoff.KFW, (std::array<float, 9>{}));
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,171 @@
+// The default database and synonym file as the build puts them into the program directory, and the
+// small .Q06 fixture: they open, and their vapour-pressure equations pass the fixed points.
+#include "core/datei_io.h"
+#include "engine/korrelationen.h"
+#include "substance/datenbank.h"
+#include "substance/korrelierte_parameter.h"
+#include "substance/stoff_laden.h"
+#include "support/relativ.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <set>
+
+namespace quor {
+namespace {
+
+const std::string Datenbank = std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/QUOR.Q07";
+
+ProjectState Geoeffnet(int typ = 7, const std::string& pfad = Datenbank) {
+  ProjectState s;
+  InitProjectState(s);
+  int16_t failed = 0;
+  bool leer = false;
+  LadeDatenbank(s, typ, pfad, failed, leer);
+  EXPECT_EQ(failed, 0) << pfad;
+  return s;
+}
+
+int IndexVonTag(const std::string& tag) {
+  for (int i = 1; i <= 8; ++i) {
+    if (DampfdruckTagVon(i) == tag) return i;
+  }
+  return 0;
+}
+
+// Relative deviation of equation `index` from p at T; infinite on failure.
+double Abweichung(ProjectState& s, int index, double T, double p) {
+  int16_t failed = 0;
+  const double ist = pLV(s, T, index, false, failed);
+  return failed != 0 ? INFINITY : std::fabs(ist / p - 1);
+}
+
+TEST(Standarddatenbank, OpensWithAllItsSubstances) {
+  ProjectState s = Geoeffnet();
+  ASSERT_EQ(s.Datenbank.StoffAnzahl, 430);
+  EXPECT_EQ(s.Datenbank.NamenListe[1], "Methan");
+  EXPECT_EQ(s.Datenbank.CASListe[1], "74-82-8");
+  std::set<int> nummern;
+  for (int k = 1; k <= s.Datenbank.StoffAnzahl; ++k) {
+    int16_t failed = 0;
+    LadeStoff(s, k, failed);
+    EXPECT_EQ(failed, 0) << s.Stoff.StoffName;
+    nummern.insert(s.Stoff.MDBNr);
+  }
+  EXPECT_EQ(nummern.size(), 430u); // system numbers are unique
+  int16_t failed = 0;
+  LadeStoff(s, 1, failed);
+  EXPECT_EQ(s.Stoff.Formel, "CH4");
+  EXPECT_EQ(s.Stoff.Struktur, "CH4");
+  EXPECT_DOUBLE_EQ(s.Stoff.TKrit, 190.56);
+  EXPECT_EQ(s.Modell.DampfdruckTag, "FRO");
+}
+
+TEST(Standarddatenbank, WaterBoilsAt373KelvinWithEveryEquationItHas) {
+  ProjectState s = Geoeffnet();
+  int k = 1;
+  while (k <= s.Datenbank.StoffAnzahl && s.Datenbank.CASListe[k] != "7732-18-5")
+    ++k;
+  int16_t failed = 0;
+  LadeStoff(s, k, failed);
+  ASSERT_EQ(s.Stoff.StoffName, "Wasser");
+  const StoffGruppe& st = s.Stoff;
+  std::vector<int> gleichungen{5};
+  if (st.AntoineNdGrenzen.TLo > 0) gleichungen.push_back(1);
+  if (st.AntoineHdGrenzen.TLo > 0) gleichungen.push_back(2);
+  if (st.FrostKalkwarfGrenzen.TLo > 0) gleichungen.push_back(3);
+  if (st.WagnerGrenzen.TLo > 0) gleichungen.push_back(4);
+  for (int index : {6, 7, 8}) {
+    KorrelierteParameter(s, index, st.TKrit, st.pKrit, st.TSiede);
+    gleichungen.push_back(index);
+  }
+  EXPECT_EQ(gleichungen.size(), 8u);
+  for (int index : gleichungen) {
+    // The high-pressure Antoine set is fitted from 374 K upwards and misses 1 atm by 0.69 %.
+    const double toleranz = index == 2 ? 7e-3 : 5e-3;
+    EXPECT_LT(Abweichung(s, index, 373.15, pNormal), toleranz) << "equation " << index;
+  }
+}
+
+// Substances whose stored curve misses 1 atm at the stored boiling point by more than 3 %: the
+// vapour-pressure curve and the boiling point of the source disagree (long alkanes, acids and
+// nitro compounds that decompose, substances that sublime, helium's rounded boiling point, and
+// curves whose range was cut where they drift). The data are kept as they are.
+const std::set<std::string> BekannteAbweichler = {
+    "111-01-3",  "629-97-0",   "638-67-5", "646-31-1", "629-99-2",  "630-01-3",   "630-02-4",  "630-03-5",
+    "2216-34-4", "15869-80-4", "493-01-6", "77-73-6",  "129-00-0",  "10544-73-7", "7446-11-9", "7440-59-7",
+    "463-51-4",  "137-32-6",   "112-27-6", "112-60-7", "124-04-9",  "110-16-7",   "88-99-3",   "100-21-0",
+    "108-31-6",  "628-63-7",   "120-61-6", "142-96-1", "1860-27-1", "637-92-3",   "120-82-1",  "121-44-8",
+    "105-59-9",  "102-71-6",   "140-31-8", "99-08-1",  "111-31-9",  "13286-92-5", "629-19-6",  "2551-62-4",
+    "121-14-2",  "606-20-2",   "610-39-9", "118-96-7", "100-37-8",  "108-01-0",   "542-52-9"};
+
+TEST(Standarddatenbank, DefaultEquationPassesTheNormalBoilingPoint) {
+  ProjectState s = Geoeffnet();
+  std::set<std::string> daneben;
+  int mitSiedepunkt = 0;
+  for (int k = 1; k <= s.Datenbank.StoffAnzahl; ++k) {
+    int16_t failed = 0;
+    LadeStoff(s, k, failed);
+    if (s.Stoff.TSiede <= 1e-6f) continue;
+    ++mitSiedepunkt;
+    const double d = Abweichung(s, IndexVonTag(s.Modell.DampfdruckTag), s.Stoff.TSiede, pNormal);
+    const bool bekannt = BekannteAbweichler.count(s.Stoff.CASRN) > 0;
+    EXPECT_EQ(d <= 0.03, !bekannt) << s.Stoff.CASRN << " " << s.Stoff.StoffName << ": " << d;
+    if (!(d <= 0.03)) daneben.insert(s.Stoff.CASRN);
+  }
+  EXPECT_EQ(mitSiedepunkt, 429);
+  EXPECT_EQ(daneben, BekannteAbweichler);
+}
+
+TEST(Standarddatenbank, CorrelatedEquationsPassBothFixedPointsForEverySubstance) {
+  ProjectState s = Geoeffnet();
+  for (int k = 1; k <= s.Datenbank.StoffAnzahl; ++k) {
+    int16_t failed = 0;
+    LadeStoff(s, k, failed);
+    const StoffGruppe& st = s.Stoff;
+    if (st.TSiede <= 1e-6f) continue;
+    for (int index : {6, 7, 8}) {
+      KorrelierteParameter(s, index, st.TKrit, st.pKrit, st.TSiede);
+      EXPECT_LT(Abweichung(s, index, st.TKrit, st.pKrit), 1e-4) << st.StoffName << " equation " << index;
+      EXPECT_LT(Abweichung(s, index, st.TSiede, pNormal), 1e-4) << st.StoffName << " equation " << index;
+    }
+  }
+}
+
+TEST(Standarddatenbank, SynonymFileIsWindows1252WithCrLfAndEndsWithEnd) {
+  std::string datei;
+  ASSERT_TRUE(LeseDateiBytes(std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/SYNOM7.TXT", datei));
+  EXPECT_EQ(datei.substr(0, 9), "74-82-8\r\n");
+  EXPECT_EQ(datei.substr(datei.size() - 5), "END\r\n");
+  EXPECT_NE(datei.find("\r\nKOHLENS\xC4URE\r\n"), std::string::npos); // one byte for the umlaut
+  for (std::size_t i = 0; i < datei.size(); ++i) {
+    if (datei[i] == '\n') {
+      ASSERT_EQ(datei[i - 1], '\r') << "byte " << i;
+    }
+  }
+}
+
+TEST(Standarddatenbank, SmallOlderKindFixtureHoldsTheSameSubstances) {
+  ProjectState alt = Geoeffnet(6, std::string(QUOR_TESTDATEN) + "/datenbank/AUSWAHL.Q06");
+  ProjectState neu = Geoeffnet();
+  ASSERT_GE(alt.Datenbank.StoffAnzahl, 3);
+  for (int k = 1; k <= alt.Datenbank.StoffAnzahl; ++k) {
+    int16_t failed = 0;
+    LadeStoff(alt, k, failed);
+    int j = 1;
+    while (j <= neu.Datenbank.StoffAnzahl && neu.Datenbank.MDBNummern[j] != alt.Stoff.MDBNr)
+      ++j;
+    LadeStoff(neu, j, failed);
+    SCOPED_TRACE(neu.Stoff.StoffName);
+    EXPECT_EQ(alt.Stoff.StoffName, neu.Stoff.StoffName);
+    EXPECT_EQ(alt.Stoff.Struktur, "");
+    EXPECT_EQ(alt.Stoff.TKrit, neu.Stoff.TKrit);
+    EXPECT_EQ(alt.Stoff.FrostKalkwarf, neu.Stoff.FrostKalkwarf);
+    EXPECT_EQ(alt.Stoff.CpSinh, neu.Stoff.CpSinh);
+    EXPECT_EQ(alt.Modell.DampfdruckTag, neu.Modell.DampfdruckTag);
+  }
+}
+
+} // namespace
+} // namespace quor

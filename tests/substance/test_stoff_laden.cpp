@@ -1,0 +1,194 @@
+// Loading one substance: every cell where it belongs and the values derived on load.
+#include "rohdatei.h"
+#include "substance/datenbank.h"
+#include "substance/stoff_laden.h"
+#include "support/relativ.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace quor {
+namespace {
+
+using test::RohDatei;
+using test::RohSatz;
+
+// A substance of water's size with every block filled and distinct values in every cell.
+RohSatz Vollstaendig(int typ) {
+  RohSatz r(typ);
+  r.Formel("H2O  D").Deutsch("Wasser; destilliert").Englisch("Water").CAS("7732-18-5").Nummer(12);
+  if (typ == 7) r.Struktur("H-O-H");
+  for (int i = 0; i < 141; ++i)
+    r.Zelle(i, 1000.f + i); // every cell distinct
+  r.Zelle(0, 18.01528f).Zelle(6, 647.096049f).Zelle(7, 22064.06f).Zelle(8, 322.f).Zelle(9, 0.3443f);
+  r.Zelle(10, 373.15f).Zelle(85, -241818.f).Zelle(87, -228572.f).Zelle(89, 188.84f);
+  r.Zelle(91, 273.16f).Zelle(92, 0.6117f).Zelle(93, 273.15f);
+  r.Zelle(21, 273.5f).Zelle(22, 274.5f); // limits round half to even: 274, 274
+  r.Zelle(33, 273.f).Zelle(34, 647.f).Zelle(39, 274.f).Zelle(40, 373.f).Zelle(45, 373.f).Zelle(46, 600.f);
+  r.Zelle(58, 275.f).Zelle(59, 646.f).Zelle(66, 100.f).Zelle(67, 1500.f).Zelle(74, 100.f).Zelle(75, 2000.f);
+  r.Zelle(69, 33.3f).Zelle(71, -2610.5f);
+  r.Zelle(77, 276.f).Zelle(78, -2.09f).Zelle(82, 273.f).Zelle(83, 533.f);
+  r.Zelle(110, 0.f).Zelle(111, 0.f).Zelle(115, 0.f).Zelle(116, 0.f); // no solid cp
+  r.Zelle(105, 40650.f).Zelle(106, 373.15f).Zelle(107, 41000.f).Zelle(108, 375.f);
+  return r;
+}
+
+ProjectState Geladen(const RohSatz& r, int16_t& failed, int typ = 7) {
+  ProjectState s;
+  bool leer = false;
+  LadeDatenbankAusBytes(s, typ, "T.Q0x", RohDatei(typ, 1, {r}), failed, leer);
+  EXPECT_EQ(failed, 0);
+  LadeStoff(s, 1, failed);
+  return s;
+}
+
+TEST(StoffLaden, CellsGoToTheirFieldsWithTheDerivedValues) {
+  int16_t failed = -1;
+  const ProjectState s = Geladen(Vollstaendig(7), failed);
+  EXPECT_EQ(failed, 0);
+  const StoffGruppe& st = s.Stoff;
+  EXPECT_EQ(st.Formel, "H2O  D");
+  EXPECT_EQ(st.FormelOhneLeer, "H2OD");
+  EXPECT_EQ(st.StoffName, "Wasser"); // cut before the ';' and right-trimmed
+  EXPECT_EQ(st.Struktur, "H-O-H");
+  EXPECT_EQ(st.CASRN, "7732-18-5");
+  EXPECT_EQ(st.MDBNr, 12);
+  // Four decimals on molar mass and critical point, rounded by hand from the single-precision
+  // cells 18.0152797..., 647.0960693..., 22064.0605468...
+  EXPECT_EQ(st.MolMasse, 18.0153f);
+  EXPECT_DOUBLE_EQ(st.TKrit, 647.0961);
+  EXPECT_DOUBLE_EQ(st.pKrit, 22064.0605);
+  EXPECT_DOUBLE_EQ(st.vKritExp, 18.0153f / 322.0);
+  EXPECT_DOUBLE_EQ(st.omega, 0.3443f);
+  EXPECT_FLOAT_EQ(st.DeltaFs, (-241818.f + 228572.f) / 298.15f);
+  EXPECT_EQ(st.sBildung, 188.84f);
+  EXPECT_EQ(st.TUntereGrenze, 273.15f);
+  EXPECT_EQ(st.RhoLGrenzen.TLo, 274);
+  EXPECT_EQ(st.RhoLGrenzen.THi, 274);
+  EXPECT_EQ(st.RhoL[0], 1013.f);
+  EXPECT_EQ(st.RhoLTcr, 1020.f);
+  EXPECT_EQ(st.FrostKalkwarf[8], 1032.f);
+  EXPECT_EQ(st.AntoineNd[2], 1038.f);
+  EXPECT_EQ(st.AntoineHd[0], 1042.f);
+  EXPECT_EQ(st.Wagner[9], 1057.f);
+  EXPECT_EQ(st.CpPoly[4], 1065.f);
+  EXPECT_EQ(st.CpL[0], 276.f);
+  EXPECT_EQ(st.HLV[5], 1101.f);
+  EXPECT_EQ(st.HLVTcr, 1102.f);
+  EXPECT_EQ(st.HLVGrenzen.THi, 1104);
+  EXPECT_EQ(st.CpS[4], 1114.f);
+  EXPECT_EQ(st.RhoS[3], 1121.f);
+  EXPECT_EQ(st.RhoSGrenzen.THi, 1123);
+  // August through (373.15 K, 101.325 kPa) and the critical point, computed independently:
+  // B = 373.15*647.0961*ln(22064.0605/101.325)/(373.15 - 647.0961) = -4745.0577,
+  // A = ln(22064.0605) - B/647.0961 = 17.334554.
+  EXPECT_REL(st.AugustB, -4745.0577, 1e-7);
+  EXPECT_REL(st.AugustA, 17.334554, 1e-7);
+}
+
+TEST(StoffLaden, CpFlagsAndTheSinhCoshC2) {
+  int16_t failed = 0;
+  const ProjectState s = Geladen(Vollstaendig(7), failed);
+  EXPECT_TRUE(s.Stoff.CpPolyOK);
+  EXPECT_TRUE(s.Stoff.CpSinhOK);
+  EXPECT_TRUE(s.Stoff.CpLOK);
+  EXPECT_FALSE(s.Stoff.CpSOK);
+  EXPECT_EQ(s.Stoff.CpSinh[2], 2610.5f); // stored as its absolute value
+
+  RohSatz r = Vollstaendig(7);
+  r.Zelle(71, 0.f);                                                    // C2 missing beside a C0
+  r.Zelle(110, 0.f).Zelle(111, 5.f).Zelle(115, 10.f).Zelle(116, 20.f); // solid cp from C1 alone
+  r.Zelle(74, 0.f);                                                    // sinh/cosh without a range
+  const ProjectState t = Geladen(r, failed);
+  EXPECT_EQ(t.Stoff.CpSinh[2], 0.1f);
+  EXPECT_FALSE(t.Stoff.CpSinhOK);
+  EXPECT_TRUE(t.Stoff.CpSOK);
+
+  r.Zelle(69, 0.f); // neither C0 nor C2: C2 stays 0
+  EXPECT_EQ(Geladen(r, failed).Stoff.CpSinh[2], 0.f);
+}
+
+TEST(StoffLaden, SecondWatsonPointWinsOnlyWithinTwoKelvin) {
+  int16_t failed = 0;
+  RohSatz r = Vollstaendig(7);
+  ProjectState s = Geladen(r, failed); // 375 - 373.15 = 1.85 K
+  EXPECT_EQ(s.Stoff.WatsonH, 41000.f);
+  EXPECT_EQ(s.Stoff.WatsonT, 375.f);
+  r.Zelle(10, 300.f).Zelle(108, 302.f); // exactly 2.0 K
+  s = Geladen(r, failed);
+  EXPECT_EQ(s.Stoff.WatsonH, 40650.f);
+  EXPECT_EQ(s.Stoff.WatsonT, 373.15f);
+  r.Zelle(108, 298.5f); // 1.5 K below
+  EXPECT_EQ(Geladen(r, failed).Stoff.WatsonH, 41000.f);
+}
+
+TEST(StoffLaden, EmptyLowerBoundTakesTheTriplePoint) {
+  int16_t failed = 0;
+  RohSatz r = Vollstaendig(7);
+  r.Zelle(93, 0.f);
+  EXPECT_EQ(Geladen(r, failed).Stoff.TUntereGrenze, 273.16f);
+}
+
+TEST(StoffLaden, DefaultVapourPressureTagFollowsThePreference) {
+  int16_t failed = 0;
+  RohSatz r = Vollstaendig(7);
+  EXPECT_EQ(Geladen(r, failed).Modell.DampfdruckTag, "FRO");
+  r.Zelle(33, -5.f); // a negative lower limit counts by its absolute value
+  EXPECT_EQ(Geladen(r, failed).Modell.DampfdruckTag, "FRO");
+  r.Zelle(33, 0.f);
+  EXPECT_EQ(Geladen(r, failed).Modell.DampfdruckTag, "WAG");
+  r.Zelle(58, 0.f);
+  EXPECT_EQ(Geladen(r, failed).Modell.DampfdruckTag, "ALP");
+  r.Zelle(39, 0.f);
+  EXPECT_EQ(Geladen(r, failed).Modell.DampfdruckTag, "AHP");
+  r.Zelle(45, 0.f);
+  EXPECT_EQ(Geladen(r, failed).Modell.DampfdruckTag, "AUG");
+  r.Zelle(7, 0.f); // no critical pressure: the August constants vanish
+  const ProjectState s = Geladen(r, failed);
+  EXPECT_EQ(failed, -1);
+  EXPECT_EQ(s.Modell.DampfdruckTag, "<> ");
+  EXPECT_EQ(s.Stoff.AugustA, 0.f);
+}
+
+TEST(StoffLaden, MissingCriticalDataFailButTheRecordIsLoaded) {
+  int16_t failed = 0;
+  RohSatz r = Vollstaendig(7);
+  r.Zelle(6, 0.f);
+  const ProjectState s = Geladen(r, failed);
+  EXPECT_EQ(failed, -1);
+  EXPECT_EQ(s.Stoff.StoffName, "Wasser");
+  EXPECT_EQ(s.Stoff.TSiede, 373.15f);
+  EXPECT_EQ(s.Stoff.AugustB, 0.f); // Tb*Tc = 0
+}
+
+TEST(StoffLaden, OlderKindHasNoStructure) {
+  int16_t failed = 0;
+  const ProjectState s = Geladen(Vollstaendig(6), failed, 6);
+  EXPECT_EQ(failed, 0);
+  EXPECT_EQ(s.Stoff.Struktur, "");
+  EXPECT_EQ(s.Stoff.StoffName, "Wasser");
+  EXPECT_EQ(s.Stoff.CASRN, "7732-18-5");
+  EXPECT_DOUBLE_EQ(s.Stoff.TKrit, 647.0961);
+  EXPECT_EQ(s.Stoff.Wagner[9], 1057.f);
+}
+
+TEST(StoffLaden, IndexZeroDoesNothingAndAnIndexBeyondTheListFails) {
+  int16_t failed = 0;
+  ProjectState s = Geladen(Vollstaendig(7), failed);
+  s.Stoff.StoffName = "vorher";
+  LadeStoff(s, 0, failed);
+  EXPECT_EQ(failed, 0);
+  EXPECT_EQ(s.Stoff.StoffName, "vorher");
+  LadeStoff(s, 2, failed);
+  EXPECT_EQ(failed, -1);
+  EXPECT_EQ(s.Stoff.StoffName, "vorher");
+  LadeStoff(s, -1, failed);
+  EXPECT_EQ(failed, -1);
+  ProjectState ohne;
+  LadeStoff(ohne, 1, failed);
+  EXPECT_EQ(failed, -1);
+}
+
+} // namespace
+} // namespace quor
