@@ -10,6 +10,7 @@
 
 #include "core/datenbank_gruppe.h"
 #include "core/messdaten_gruppe.h"
+#include "core/projekt_gruppe.h"
 #include "core/substance_record.h"
 
 namespace quor {
@@ -147,6 +148,7 @@ struct ProjectState {
   DatenbankGruppe Datenbank;
   MessdatenGruppe Mess;
   int16_t RechenArt = 0; // kind of the state calculation on show
+  ProjektGruppe Projekt;
 };
 
 // The parameter set-up of the equation of state lives in the engine, which sits above this layer;

@@ -1,0 +1,265 @@
+#include "calc/ergebnis_seite.h"
+
+#include "calc/bericht.h"
+
+#include <utility>
+
+namespace quor {
+
+const char* const frmQCalcOut::TitelAnfang = "Ergebnis der Berechnung ";
+const char* const frmQCalcOut::SpeichernTitel = "QUOR-Ergebnisliste speichern unter ...";
+const char* const frmQCalcOut::SpeichernFilter = "Ergebnis-Datei (*.LST)|*.LST";
+
+namespace {
+
+const char* const GlobalText = " (GLOBAL-Berechnung)";
+const char* const PartialText = " (PARTIAL-Berechnung)";
+
+bool IstDatenbankArt(int16_t art) {
+  return art >= 14 && art <= 24;
+}
+
+// Title texts of the database functions, by kind 14 to 24 (23 has none).
+const char* DatenbankText(int16_t art) {
+  switch (art) {
+  case 14:
+    return "L-Dichte";
+  case 24:
+    return "S-Dichte";
+  case 15:
+    return "Verdampfungsenthalpie";
+  case 16:
+    return "Idealgas-Wärmekapazität";
+  case 17:
+    return "L-Wärmekapazität";
+  case 18:
+    return "S-Wärmekapazität";
+  case 19:
+    return "erweiterte Frost-Kalkwarf-Gleichung";
+  case 20:
+    return "Wagner-Gleichung";
+  case 21:
+    return "Antoine-Gleichung (Lo-p)";
+  case 22:
+    return "Antoine-Gleichung (Hi-p)";
+  default:
+    return nullptr;
+  }
+}
+
+} // namespace
+
+std::string ArtText(const ProjectState& s, int16_t art) {
+  const bool global = s.Modell.RechnungGlobal;
+  const std::string behaelter = "Phasenzustand und Druck in einem Behälter";
+  switch (art) {
+  case 1:
+    return " T, rho(V)  => p";
+  case 2:
+    return " T, rho(L)  => p";
+  case 3:
+    return " T, p => rho";
+  case 13:
+    return " p, rho => T";
+  case 4:
+    return std::string(" T => p(LV)") + (global ? GlobalText : PartialText);
+  case 5:
+    return std::string(" p => T(LV)") + (global ? GlobalText : PartialText);
+  case 6:
+    return " T => Verdampfungsenthalpie entsprechend \"Modelle\"";
+  case 7:
+    return " p => Verdampfungsenthalpie entsprechend \"Modelle\"";
+  case 8:
+    return std::string(" thermodynamische Funktionen F(T, p)") + GlobalText;
+  case 12:
+    return "Polytropen-Prozess";
+  case 9:
+    return behaelter + GlobalText;
+  case 10:
+    return behaelter + " (PARTIAL-Berechnung, rho(L) " +
+           (s.Modell.BensonDichte ? " nach BENSON)" : " aus Datenbank)");
+  case 11:
+    return " Vergleich Virialkoeffizienten";
+  default: {
+    const char* db = DatenbankText(art);
+    return db != nullptr ? std::string(" Datenbankfunktion ") + db : std::string();
+  }
+  }
+}
+
+bool PunktGeloescht(const MessdatenGruppe& m, int punkt) {
+  return punkt >= 1 && punkt < static_cast<int>(m.ExpDaten.size()) && m.ExpDaten[punkt].T == 0;
+}
+
+frmQCalcOut::frmQCalcOut(ProjectState& s, ui::Oberflaeche& ui, bool stapelModus, RechenFunktion rechnen)
+    : StapelModus(stapelModus), s_(s), ui_(ui), rechnen_(std::move(rechnen)) {}
+
+int16_t frmQCalcOut::ErsterLebenderPunkt() const {
+  for (int16_t n = 1; n <= Kontext.AnzahlPunkte; ++n)
+    if (!PunktGeloescht(s_.Mess, n)) return n;
+  return Kontext.AnzahlPunkte > 0 ? 1 : 0;
+}
+
+void frmQCalcOut::Form_Load() {
+  Art = s_.RechenArt;
+  Kontext.AnzahlPunkte = StapelModus ? s_.Mess.ExpAnzahl : 0;
+  Kontext.StapelErgebnisse.assign(static_cast<std::size_t>(Kontext.AnzahlPunkte) + 1, StapelErgebnis{});
+  Kontext.Abschnitte = 1;
+  Kontext.MitFunktionen = (Art == 4 || Art == 5) && s_.Modell.RechnungGlobal;
+  ResPlus = {false, false};
+  chkUHS = Kontext.MitFunktionen;
+  chkFuncPrint = false;
+  optResultPrint = AusgabeKeine;
+  MitDetails = false;
+
+  Caption = TitelAnfang + ArtText(s_, Art);
+  cmdCalc_OKCaption = StapelModus ? "Beenden (+Ausgabe)" : "Schließen";
+  cmdCalc_OKToolTip = StapelModus ? "" : "...Eingabe und Ausgabe ";
+  AktuellerPunkt = StapelModus ? ErsterLebenderPunkt() : 0;
+  fraBatchVorgabeCaption = StapelModus ? " Vorgabewert(e) aus Datenpunkt #" + std::to_string(AktuellerPunkt)
+                                       : " Vorgabewert(e) Direkteingabe ";
+  Protokoll = ProtokollZustand{};
+  Protokoll.ProtokollDatei = NeuerProtokollName(s_.Datenbank.ProgrammVerzeichnis, Datum);
+  lblProtText2 = Protokoll.ProtokollDatei;
+  Entladen = false;
+  Sichtbar = false;
+
+  Rechnen();
+  if (Ausgang == "EXIT") {
+    Form_Unload();
+    return;
+  }
+  Sichtbar = true;
+}
+
+void frmQCalcOut::Rechnen() {
+  Ausgang.clear();
+  rechnen_(s_, ui_, Seite, Kontext, Art, AktuellerPunkt, Druck, Eta, Ausgang);
+  SetzeFreigaben();
+}
+
+void frmQCalcOut::SetzeFreigaben() {
+  const bool datenbank = IstDatenbankArt(Art);
+  const bool partial45 = (Art == 4 || Art == 5) && !s_.Modell.RechnungGlobal;
+  cmdVorEnabled = cmdRueckEnabled = StapelModus;
+  fraResultOutputVisible = !(Art == 11 || datenbank);
+  fraResultOutputEnabled = StapelModus;
+  fraProtokollVisible = Art != 9 && Art != 10 && Seite.fraProtokollSichtbar;
+  fraCalcErweitertVisible =
+      !(Art == 6 || Art == 7 || Art == 11 || datenbank) && Seite.fraCalcErweitertSichtbar;
+  fraBatchVorgabeVisible = Seite.fraBatchVorgabeSichtbar;
+  fraValueVisible = Seite.fraValueSichtbar;
+  chkUHSEnabled = Art < 4 || Art == 9;
+  ResPlusEnabled = !partial45;
+  chkFuncPrintEnabled = optResultPrint != AusgabeKeine && Art < 6 && Kontext.Abschnitte >= 2;
+  cmdOpenNewEnabled = Protokoll.ProtokollOffen;
+  cmdCEOSDiagnoseEnabled = Seite.cmdCEOSDiagnoseVerfuegbar;
+  cmdInfoSuperCritEnabled = Seite.cmdInfoSuperCritVerfuegbar;
+}
+
+// A step skips one deleted point only; beyond the ends the page beeps and stays at the end.
+void frmQCalcOut::cmdVor_Click() {
+  if (!cmdVorEnabled) return;
+  ++AktuellerPunkt;
+  if (PunktGeloescht(s_.Mess, AktuellerPunkt)) ++AktuellerPunkt;
+  if (AktuellerPunkt > Kontext.AnzahlPunkte) {
+    ++Piepser;
+    AktuellerPunkt = Kontext.AnzahlPunkte;
+  }
+  fraBatchVorgabeCaption = "Vorgabewerte aus Datenpunkt " + std::to_string(AktuellerPunkt);
+  Rechnen();
+}
+
+void frmQCalcOut::cmdRueck_Click() {
+  if (!cmdRueckEnabled) return;
+  --AktuellerPunkt;
+  if (PunktGeloescht(s_.Mess, AktuellerPunkt)) --AktuellerPunkt;
+  if (AktuellerPunkt < 1) {
+    ++Piepser;
+    AktuellerPunkt = 1;
+  }
+  fraBatchVorgabeCaption = "Vorgabewerte aus Datenpunkt " + std::to_string(AktuellerPunkt);
+  Rechnen();
+}
+
+void frmQCalcOut::chkUHS_Click(bool an) {
+  chkUHS = an;
+  Kontext.MitFunktionen = an;
+  Rechnen();
+}
+
+void frmQCalcOut::ResPlus_Click(int index, bool an) {
+  if (index < 0 || index > 1) return;
+  ResPlus[static_cast<std::size_t>(index)] = an;
+  Kontext.Abschnitte = static_cast<int16_t>(1 + (ResPlus[0] ? 1 : 0) + (ResPlus[1] ? 2 : 0));
+  Rechnen();
+}
+
+void frmQCalcOut::optResultPrint_Click(int16_t index) {
+  optResultPrint = index;
+  SetzeFreigaben();
+}
+
+void frmQCalcOut::chkFuncPrint_Click(bool an) {
+  chkFuncPrint = an;
+}
+
+void frmQCalcOut::cmdProtokoll_Click() {
+  ProtokollAufnehmen(s_, ui_, Protokoll, Kontext.Ergebnis);
+  SetzeFreigaben();
+}
+
+void frmQCalcOut::cmdOpenNew_Click() {
+  ProtokollSchliessen(s_, ui_, Protokoll, Datum);
+  lblProtText2 = Protokoll.ProtokollDatei;
+  SetzeFreigaben();
+}
+
+// The report lists every live point, so each is calculated once more before it is written.
+void frmQCalcOut::RechneAllePunkte() {
+  for (int16_t n = 1; n <= Kontext.AnzahlPunkte; ++n) {
+    if (PunktGeloescht(s_.Mess, n)) continue;
+    int16_t punkt = n;
+    std::string ausgang;
+    rechnen_(s_, ui_, Seite, Kontext, Art, punkt, Druck, Eta, ausgang);
+  }
+}
+
+void frmQCalcOut::BerichtAusgeben() {
+  MitDetails = chkFuncPrint && chkFuncPrintEnabled;
+  const BerichtAuftrag auftrag{Datum, Caption, Art, MitDetails};
+  if (optResultPrint == AusgabeDrucker) {
+    RechneAllePunkte();
+    DruckeBericht(ui_.Druck(), s_, Kontext, auftrag);
+    return;
+  }
+  ui::DateiDialog dialog;
+  dialog.titel = SpeichernTitel;
+  dialog.filter = SpeichernFilter;
+  dialog.standardEndung = ".LST";
+  dialog.startVerzeichnis = s_.Datenbank.ProgrammVerzeichnis;
+  const auto name = ui_.DateiSpeichern(dialog);
+  if (!name || name->empty()) return;
+  RechneAllePunkte();
+  const std::string pfad = BerichtDateiName(*name, s_.Datenbank.ProgrammVerzeichnis);
+  if (!SchreibeBericht(pfad, s_, Kontext, auftrag))
+    ui_.Meldung("Die Ergebnisliste konnte nicht geschrieben werden:\r\n" + pfad, "Fehler bei Dateiausgabe",
+                ui::Symbol::Kritisch);
+}
+
+void frmQCalcOut::cmdCalc_OK_Click() {
+  if (optResultPrint != AusgabeKeine && fraResultOutputVisible && fraResultOutputEnabled) BerichtAusgeben();
+  optResultPrint = AusgabeKeine;
+  Form_Unload();
+}
+
+void frmQCalcOut::Form_Unload() {
+  if (Entladen) return;
+  if (Protokoll.ProtokollOffen) cmdOpenNew_Click();
+  Entladen = true;
+  Sichtbar = false;
+  SetzeFreigaben();
+  if (BegleiterEntladen) BegleiterEntladen();
+}
+
+} // namespace quor

@@ -1,0 +1,190 @@
+// Building the lists of the model window for the loaded substance, with the defaults and the
+// corrections of the model selection they imply.
+#include "substance/modell_wahl.h"
+
+#include "core/zahlformat.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quor {
+
+namespace {
+
+constexpr double Schwelle = 1e-6;
+
+// Selects the entry of a table row; the first entry for row 0 or a row that isn't offered.
+void Waehle(ModellListe& l, int16_t index) {
+  const int p = index != 0 ? l.Position(index) : -1;
+  l.ListIndex = p >= 0 ? p : 0;
+}
+
+// Basic's Str$ of a whole number: a blank stands for the plus sign.
+std::string StrVB(int n) {
+  return (n >= 0 ? " " : "") + std::to_string(n);
+}
+
+} // namespace
+
+int16_t ModellListe::Gewaehlt() const {
+  return ListIndex >= 0 && ListIndex < static_cast<int>(Index.size()) ? Index[ListIndex] : int16_t{-1};
+}
+
+int ModellListe::Position(int16_t tabellenIndex) const {
+  const auto it = std::find(Index.begin(), Index.end(), tabellenIndex);
+  return it == Index.end() ? -1 : static_cast<int>(it - Index.begin());
+}
+
+void ModellListe::Hinzu(int16_t tabellenIndex, const std::string& text) {
+  Index.push_back(tabellenIndex);
+  Texte.push_back(text);
+}
+
+void ModellListe::Entferne(int16_t tabellenIndex) {
+  const int p = Position(tabellenIndex);
+  if (p < 0) return;
+  Index.erase(Index.begin() + p);
+  Texte.erase(Texte.begin() + p);
+  if (ListIndex > p) --ListIndex;
+  if (ListIndex >= static_cast<int>(Index.size())) ListIndex = static_cast<int>(Index.size()) - 1;
+}
+
+void ModellListe::Leeren() {
+  Index.clear();
+  Texte.clear();
+  ListIndex = -1;
+}
+
+// Database equations first (Frost/Kalkwarf, Wagner, Antoine low and high pressure), then the
+// four correlated ones when the boiling and the critical point are known.
+void frmQModell::BaueDampfdruckListe() {
+  const StoffGruppe& st = s_.Stoff;
+  ModelSelection& m = s_.Modell;
+  const auto& namen = s_.Tab.DampfdruckNamen;
+  Dampfdruck.Leeren();
+  auto hinzu = [&](int16_t i) { Dampfdruck.Hinzu(i, namen[i]); };
+  if (std::abs(st.FrostKalkwarfGrenzen.TLo) > Schwelle) hinzu(3);
+  if (st.WagnerGrenzen.TLo > Schwelle) hinzu(4);
+  if (st.AntoineNd[0] > Schwelle) hinzu(1);
+  if (st.AntoineHd[0] > Schwelle) hinzu(2);
+  if (st.TSiede > Schwelle && st.TKrit * st.pKrit > Schwelle)
+    for (int16_t i = 5; i <= 8; ++i)
+      hinzu(i);
+  if (Dampfdruck.Index.empty()) hinzu(0);
+  Waehle(Dampfdruck, m.DampfdruckIndex);
+  m.DampfdruckIndex = Dampfdruck.Gewaehlt();
+  m.DampfdruckTag = DampfdruckTagVon(m.DampfdruckIndex);
+}
+
+// The ideal gas always; the cubic and virial models with the critical point, those that need the
+// acentric factor only with it.
+void frmQModell::BaueEOSListe() {
+  const StoffGruppe& st = s_.Stoff;
+  ModelSelection& m = s_.Modell;
+  const bool omega = st.omega != 0;
+  if (m.EOSIndex == -1) m.EOSIndex = omega ? 6 : 4;
+  EOS.Leeren();
+  auto hinzu = [&](std::initializer_list<int16_t> indizes) {
+    for (int16_t i : indizes)
+      EOS.Hinzu(i, s_.Tab.EOSNamen[i]);
+  };
+  hinzu({0});
+  if (st.TKrit > Schwelle && st.pKrit > Schwelle) {
+    hinzu({2, 3, 4});
+    if (omega) hinzu({5, 6, 7, 8});
+    hinzu({10});
+    if (omega) hinzu({16});
+    hinzu({11, 12, 13});
+    if (omega) hinzu({14, 15});
+  }
+  const int p = EOS.Position(m.EOSIndex);
+  EOS.ListIndex = p >= 0 ? p : 0;
+  m.EOSIndex = EOS.Gewaehlt();
+  m.VirialFlag = m.EOSIndex == 0 || m.EOSIndex >= 10;
+  if (m.VirialFlag) m.KonzeptGlobal = false;
+}
+
+void frmQModell::BaueHLVListe() {
+  const StoffGruppe& st = s_.Stoff;
+  ModelSelection& m = s_.Modell;
+  const auto& namen = s_.Tab.HLVNamen;
+  HLV.Leeren();
+  auto hinzu = [&](int16_t i) { HLV.Hinzu(i, namen[i]); };
+  if (st.HLVGrenzen.TLo > Schwelle)
+    hinzu(1);
+  else if (m.HLVIndex == 1)
+    m.HLVIndex = 0;
+  if (st.TKrit * st.pKrit > 1.0) hinzu(2);
+  if (std::fabs(st.omega) > Schwelle && st.TKrit > Schwelle) hinzu(3);
+  if (static_cast<double>(st.WatsonH) * st.WatsonT > Schwelle && st.TKrit > Schwelle) hinzu(4);
+  if (st.RhoLGrenzen.TLo > Schwelle) hinzu(5);
+  if (st.TKrit > Schwelle) hinzu(6);
+  if (std::fabs(st.omega) > Schwelle && !m.VirialFlag) hinzu(7);
+  if (HLV.Index.empty()) hinzu(0);
+  Waehle(HLV, m.HLVIndex);
+  m.HLVIndex = HLV.Gewaehlt();
+}
+
+// "0.38" first; with the critical temperature a second exponent from the reduced boiling point.
+void frmQModell::BaueWatsonListe() {
+  const StoffGruppe& st = s_.Stoff;
+  ModelSelection& m = s_.Modell;
+  WatsonListe = {"0.38"};
+  if (st.TKrit > Schwelle) {
+    const double Tbr = st.TSiede / st.TKrit;
+    if (Tbr <= 0.57)
+      WatsonListe.push_back("0.30");
+    else if (Tbr < 0.71)
+      WatsonListe.push_back(SingleText(static_cast<float>(0.74 * Tbr - 0.116)));
+    else
+      WatsonListe.push_back("0.41");
+  }
+  if (m.WatsonExp > Schwelle) {
+    WatsonText = SingleText(m.WatsonExp);
+  } else {
+    WatsonText = WatsonListe.front();
+    m.WatsonExp = 0.38f;
+  }
+  WatsonVisible = m.HLVIndex == 4;
+}
+
+// A stored cp equation that the substance lacks moves to the other one, without a message.
+void frmQModell::BaueCpListe() {
+  const StoffGruppe& st = s_.Stoff;
+  int16_t& cp = s_.Modell.CpIndex;
+  Cp.Leeren();
+  if (!st.CpPolyOK && !st.CpSinhOK) Cp.Hinzu(0, s_.Tab.CpNamen[0]);
+  if (st.CpPolyOK) Cp.Hinzu(1, s_.Tab.CpNamen[1]);
+  if (st.CpSinhOK) Cp.Hinzu(2, s_.Tab.CpNamen[2]);
+  if (cp == 0) {
+    if (st.CpSinhOK)
+      cp = 2;
+    else if (st.CpPolyOK)
+      cp = 1;
+  } else if (cp == 1 && !st.CpPolyOK) {
+    cp = st.CpSinhOK ? 2 : 0;
+  } else if (cp == 2 && !st.CpSinhOK) {
+    cp = st.CpPolyOK ? 1 : 0;
+  }
+  const int p = Cp.Position(cp);
+  Cp.ListIndex = p >= 0 ? p : 0;
+  cp = Cp.Gewaehlt();
+}
+
+void frmQModell::BaueRhoLZeilen() {
+  const TGrenzen& g = s_.Stoff.RhoLGrenzen;
+  if (g.TLo > Schwelle) {
+    lblRhoL = "Parameter aus Datenbank verfügbar";
+    lblRhoLBereich = "Gültigkeit: T =" + StrVB(g.TLo) + " ..." + StrVB(g.THi) + " K";
+  } else {
+    lblRhoL = "Parameter nicht verfügbar";
+    lblRhoLBereich.clear();
+  }
+}
+
+void frmQModell::SetzeKonzeptOptionen() {
+  optKonzept = s_.Modell.KonzeptGlobal ? 0 : 1;
+  optKonzeptEnabled = !s_.Modell.VirialFlag;
+}
+
+} // namespace quor

@@ -1,0 +1,254 @@
+// The batch report: the .LST file of a batch against its golden file, the rules of deviations and
+// means, the derivative pages, the head by kind and concept, the printer's drawing, the file name.
+#include "calc/bericht.h"
+#include "calc/ergebnis_seite.h"
+#include "test_ergebnis_seite_daten.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+std::vector<std::string> Zeilen(const std::string& text) {
+  std::vector<std::string> z;
+  std::size_t anfang = 0;
+  for (std::size_t ende; (ende = text.find("\r\n", anfang)) != std::string::npos; anfang = ende + 2)
+    z.push_back(text.substr(anfang, ende - anfang));
+  return z;
+}
+
+// The first line that holds `text`, or an empty one.
+std::string ZeileMit(const std::vector<std::string>& zeilen, const std::string& text) {
+  for (const auto& z : zeilen)
+    if (z.find(text) != std::string::npos) return z;
+  return {};
+}
+
+// A record of point `n` with only the compared values set.
+StapelErgebnis Werte(const std::string& phase, float T, float p, float rhoV, float rhoL, float dh) {
+  StapelErgebnis e;
+  e.Phase = phase;
+  e.TCalc = T;
+  e.pCalc = p;
+  e.rhoVCalc = rhoV;
+  e.rhoLCalc = rhoL;
+  e.dhCalc = dh;
+  return e;
+}
+
+struct Bericht {
+  ProjectState s = StapelZustand("");
+  RechenKontext k;
+  BerichtAuftrag a{"14.03.2024", "Ergebnis der Berechnung  T => p(LV) (GLOBAL-Berechnung)", 4, false};
+  Bericht() {
+    k.AnzahlPunkte = s.Mess.ExpAnzahl;
+    k.StapelErgebnisse.assign(6, StapelErgebnis{});
+  }
+  std::vector<std::string> Text() { return Zeilen(BerichtText(s, k, a)); }
+};
+
+// The batch of five points with the third deleted, every live point calculated, deviations, means
+// and derivative pages; the file is Windows-1252 with CR LF. The golden file was checked column by
+// column against the report's layout before it was first written.
+TEST(Bericht, BatchReportFileMatchesGoldenFile) {
+  TempVerzeichnis tmp;
+  ProjectState s = StapelZustand(tmp.Pfad());
+  ui::SkriptOberflaeche ui;
+  auto rechnung = StapelRechnung();
+  frmQCalcOut seite(s, ui, true, rechnung.Funktion());
+  seite.Datum = "14.03.2024";
+  seite.Form_Load();
+  seite.ResPlus_Click(0, true);
+  seite.optResultPrint_Click(AusgabeDatei);
+  ASSERT_TRUE(seite.chkFuncPrintEnabled);
+  seite.chkFuncPrint_Click(true);
+  ui.dateien.push_back(tmp.Datei("stapel.LST"));
+  rechnung.aufrufe.clear();
+  seite.cmdCalc_OK_Click();
+
+  ASSERT_EQ(ui.dateiDialoge.size(), 1u);
+  EXPECT_EQ(ui.dateiDialoge[0].titel, "QUOR-Ergebnisliste speichern unter ...");
+  EXPECT_EQ(ui.dateiDialoge[0].filter, "Ergebnis-Datei (*.LST)|*.LST");
+  EXPECT_EQ(ui.dateiDialoge[0].standardEndung, ".LST");
+  EXPECT_EQ(rechnung.aufrufe, (std::vector<int>{1, 2, 4, 5})); // the deleted point is not calculated
+  EXPECT_TRUE(seite.MitDetails);
+  EXPECT_EQ(seite.optResultPrint, AusgabeKeine);
+  EXPECT_TRUE(seite.Entladen);
+  const std::string datei = LeseDatei(tmp.Datei("stapel.LST"));
+  ASSERT_FALSE(datei.empty());
+  EXPECT_EQ(datei.find('\xB2'), std::string::npos); // no superscript two in the file
+  VergleicheMitGolden("stapel.LST", datei);
+}
+
+// A deviation of 500 % or more, single or mean, is not given as a number; just below it is.
+TEST(Bericht, DeviationsFromFiveHundredPercentAreFlagged) {
+  Bericht b;
+  b.k.AnzahlPunkte = 2;
+  b.s.Mess.ExpDaten[1].RhoV = 2;
+  b.s.Mess.ExpDaten[2].RhoV = 2;
+  b.k.StapelErgebnisse[1] = Werte("V+L", 300, 1000, 12, 500, 30000);    // rho(V) 2 -> 12: exactly +500 %
+  b.k.StapelErgebnisse[2] = Werte("V+L", 320, 1500, 11.98f, 480, 5000); // 2 -> 11.98f: +498.99998 %
+  const auto z = b.Text();
+  EXPECT_EQ(ZeileMit(z, "(Abw.>500 %!)").find("(Abw.>500 %!)"), 32u);
+  EXPECT_EQ(ZeileMit(z, "(499. %)").find("(499. %)"), 32u); // Format "####.##" keeps the point
+  // Mean of rho(V): (500 + 498.99998)/2 = 499.49999 -> Int(49949.999 + 0.5)/100 = 499.5
+  EXPECT_EQ(ZeileMit(z, "499.5%").find("499.5%"), 32u);
+
+  b.k.StapelErgebnisse[2].rhoVCalc = 12; // both +500 %: the mean is exactly 500
+  const auto z2 = b.Text();
+  const auto mittel = std::find(z2.begin(), z2.end(), "arithmet. mean of ABS(%-deviations):");
+  ASSERT_NE(mittel, z2.end());
+  std::string rest;
+  for (auto i = mittel + 1; i != z2.end(); ++i)
+    rest += *i + "\n";
+  EXPECT_NE(rest.find("(Abw.>500 %!)"), std::string::npos);
+}
+
+// A value missing on either side gives no difference or deviation in its column and does not count
+// in the column's mean; a calculation that hits the measured value exactly does not count either.
+TEST(Bericht, MissingValuesAndExactHitsDoNotCountInTheMean) {
+  Bericht b;
+  b.k.AnzahlPunkte = 2;
+  b.s.Mess.ExpDaten[2].HLV = 0;
+  b.k.StapelErgebnisse[1] = Werte("V+L", 300, 1000, 20, 500, 34500); // delta(LV)h 30000 -> 34500: +15 %
+  b.k.StapelErgebnisse[2] = Werte("V+L", 320, 1500, 2, 480, 9000);   // no measured delta(LV)h
+  const auto z = b.Text();
+  // Point 1's difference of delta(LV)h as an integer at column 60 (the blank before it is at 59).
+  EXPECT_EQ(ZeileMit(z, " 4500").find(" 4500"), 59u);
+  // Point 2's calculated delta(LV)h is shown, but nothing follows in its column.
+  EXPECT_EQ(ZeileMit(z, "V+L  320").find("9000"), 60u);
+  // Means: T, p, rho(V), rho(L) hit exactly (blanks); delta(LV)h 15 % over one point, not 7.5 %.
+  EXPECT_EQ(ZeileMit(z, "15%").find("15%"), 60u);
+  EXPECT_EQ(ZeileMit(z, "7.5%"), "");
+}
+
+// The derivative pages: liquid values at column 26, vapour values at 52 by the letters of the phase,
+// the "2" forms of the second-derivative labels in the file, and no page without a function block.
+TEST(Bericht, DerivativePagesFollowThePhaseAndUsePlainLabelsInTheFile) {
+  Bericht b;
+  b.a.MitDetails = true;
+  b.k.AnzahlPunkte = 2;
+  b.k.StapelErgebnisse[1] = Ergebnis(1, " L ", 300, 1000, 20, 500, 30000);
+  b.k.StapelErgebnisse[2] = Ergebnis(2, "V+L", 320, 1500, 2, 480, 5000);
+  b.k.StapelErgebnisse[2].TFu = 0;
+  const auto z = b.Text();
+  EXPECT_NE(ZeileMit(z, "for data set 1"), "");
+  EXPECT_EQ(ZeileMit(z, "for data set 2"), "");
+  // Point 1, label row 0 from Abl1 column 1: (100 + 10 + 1)/8 = 13.875, no vapour value.
+  EXPECT_EQ(ZeileMit(z, " (dp/dV) bei T: "), "      (dp/dV) bei T:      13.875");
+  EXPECT_NE(ZeileMit(z, "       d2p/dV2: "), "");
+  EXPECT_NE(ZeileMit(z, "       d2V/dT2: "), "");
+  EXPECT_NE(ZeileMit(z, "       d2T/dV2: "), "");
+  EXPECT_NE(ZeileMit(z, "  d2ln phi/dT2: "), "");
+  EXPECT_NE(ZeileMit(z, "     ln (phi*): "), "");
+  // Rows 21, 23, 22 come first, from residual columns 7, 9, 8: (100 + 30 + 7)/8 = 17.125.
+  EXPECT_EQ(ZeileMit(z, " (dT/dp) bei H: "), "      (dT/dp) bei H:      17.125");
+  // The table of the project keeps its superscripts.
+  EXPECT_EQ(b.s.Tab.AbleitungsLabels[9], "       d2p/dV²");
+}
+
+// Kind 8 gives the functions of each point and ends after the points: no mean, no derivative pages.
+TEST(Bericht, FunctionKindListsFunctionsAndEndsAfterThePoints) {
+  Bericht b;
+  b.a.Art = 8;
+  b.a.MitDetails = true;
+  b.k.AnzahlPunkte = 1;
+  b.k.StapelErgebnisse[1] = Ergebnis(1, " V ", 300, 1000, 20, 0, 0);
+  const auto z = b.Text();
+  ASSERT_GE(z.size(), 8u);
+  EXPECT_EQ(z[z.size() - 7], "     V ");
+  EXPECT_EQ(z[z.size() - 6], "");
+  EXPECT_EQ(z[z.size() - 5], "          Enthalpy        h/kJ/kmol     = 1000.5");
+  EXPECT_EQ(z[z.size() - 4], "          Entropy         s/kJ/(kmol*K) =-2.25");
+  EXPECT_EQ(z.back(), "          Exergy of U     e/kJ/kmol     =-7.75");
+}
+
+// The head by concept: the vapour-pressure equation appears in PARTIAL and without an EOS, the
+// Benson line for kinds 4 and 5 in PARTIAL only; a batch file is named when there is one.
+TEST(Bericht, HeadNamesModelAndVapourPressureEquationByConcept) {
+  Bericht b;
+  b.s.Modell.RechnungGlobal = false;
+  b.s.Modell.DampfdruckIndex = 4;
+  auto z = b.Text();
+  EXPECT_EQ(z[0], std::string(59, ' ') + "14.03.2024");
+  EXPECT_EQ(z[1], std::string(20, ' ') + "QUOR Results of Calculation");
+  EXPECT_EQ(z[3], "   Substance            : Propan");
+  EXPECT_EQ(z[5], std::string(26, ' ') + "Enthalpy of Vaporization (using EOS)");
+  EXPECT_EQ(z[6], std::string(26, ' ') + "(BENSON-Methode)");
+  EXPECT_EQ(z[7], "   model                : CEOS Peng / Robinson");
+  EXPECT_EQ(z[8], "   Vapor Pressure Equation" + std::string(20, ' ') + "Wagner (MDB-Gl)");
+  EXPECT_EQ(z[9], "   Number of Data Sets  : 5");
+  EXPECT_EQ(z[10], "   Name of Batchfile    : PROPAN.BAQ");
+
+  b.s.Modell.RechnungGlobal = true;
+  b.a.Art = 3;
+  b.s.Mess.BatchDateiTitel.clear();
+  z = b.Text();
+  EXPECT_EQ(z[5], "   model                : CEOS Peng / Robinson");
+  EXPECT_EQ(z[6], "   Number of Data Sets  : 5");
+  EXPECT_EQ(z[7], std::string(70, '='));
+}
+
+// The printer gets the same report in COURIER 10 with columns at multiples of the width of "X", its
+// own head texts, superscript labels, and rules drawn as lines.
+TEST(Bericht, PrinterReportUsesColumnsOfTheCharacterWidth) {
+  Bericht b;
+  b.a.MitDetails = true;
+  b.k.AnzahlPunkte = 1;
+  b.k.StapelErgebnisse[1] = Ergebnis(1, "V+L", 300, 1012.5f, 20.5f, 495, 40000);
+  ui::SkriptDrucker d;
+  ASSERT_TRUE(DruckeBericht(d, b.s, b.k, b.a));
+  ASSERT_GE(d.protokoll.size(), 3u);
+  EXPECT_EQ(d.protokoll[1], "Schrift COURIER 10");
+  EXPECT_EQ(d.protokoll.back(), "Ende");
+  const double x = d.TextBreite("X"); // 6 points for the scripted 10-point font
+  auto gedruckt = [&](const std::string& text) {
+    for (const auto& zeile : d.protokoll)
+      if (zeile.rfind("Text ", 0) == 0 && zeile.size() >= text.size() &&
+          zeile.compare(zeile.size() - text.size(), text.size(), text) == 0) {
+        std::istringstream felder(zeile.substr(5));
+        double px = -1;
+        felder >> px;
+        return px;
+      }
+    return -1.0;
+  };
+  EXPECT_EQ(gedruckt(" QUOR: Results of Calculation"), 20 * x);
+  EXPECT_EQ(gedruckt(" Substance:"), 3 * x);
+  EXPECT_EQ(gedruckt(" Propan"), 26 * x);
+  EXPECT_EQ(gedruckt(" No."), 0);
+  EXPECT_EQ(gedruckt(" Phase"), 3 * x);
+  EXPECT_EQ(gedruckt(" arithmetic mean of ABS(%-deviations):"), 0);
+  EXPECT_EQ(gedruckt("       d2p/dV²: "), 5 * x);
+  EXPECT_EQ(gedruckt(" 1012.5"), 20 * x);
+  // The rules of 70 characters are drawn as lines.
+  EXPECT_NE(std::find_if(d.protokoll.begin(), d.protokoll.end(),
+                         [](const std::string& z) {
+                           return z.rfind("Linie 0 ", 0) == 0 && z.find(" 420 ") != z.npos;
+                         }),
+            d.protokoll.end());
+
+  ui::SkriptDrucker abgebrochen;
+  abgebrochen.verfuegbar = false;
+  EXPECT_FALSE(DruckeBericht(abgebrochen, b.s, b.k, b.a));
+  EXPECT_EQ(abgebrochen.protokoll.size(), 1u);
+}
+
+TEST(Bericht, FileNameGetsExtensionAndDirectoryWhenTypedWithout) {
+  EXPECT_EQ(BerichtDateiName("liste", "verz"), "verz/liste.LST");
+  EXPECT_EQ(BerichtDateiName("liste.txt", "verz"), "verz/liste.txt");
+  EXPECT_EQ(BerichtDateiName("ergebnisse", "verz"), "verz/ergebnisse"); // nine characters or more
+  EXPECT_EQ(BerichtDateiName("LPT1", "verz"), "verz/LPT1");
+  EXPECT_EQ(BerichtDateiName("ab/liste", "verz"), "ab/liste.LST"); // the directory stays
+  EXPECT_EQ(BerichtDateiName("ab/liste1", "verz"), "ab/liste1");
+  EXPECT_EQ(BerichtDateiName("c:\\liste", "verz"), "c:\\liste.LST");
+}
+
+} // namespace
+} // namespace quor

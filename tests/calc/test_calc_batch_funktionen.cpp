@@ -1,0 +1,148 @@
+// The functions of kind 8 and the further blocks of the common ending: fugacity and residual functions,
+// mechanical coefficients, derivatives with the inflection points, the functions block, the EOS
+// parameters; cells, record and scaling against direct engine calls.
+#include "calc/calc_testhilfe.h"
+#include "core/festtext.h"
+#include "core/zahlformat.h"
+#include "engine/ableitungen.h"
+#include "engine/eos_auswertung.h"
+#include "engine/kalorik.h"
+#include "engine/virial.h"
+#include "support/relativ.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+constexpr const char* Format = " 0.0000E+00;-0.0000E+00";
+
+struct Phase {
+  double v = 0;
+  KalorischeWerte w;
+  KalorikTabellen tab;
+  MechTabelle mech{};
+};
+
+// The tables of one phase at (T, p), computed directly.
+Phase Direkt(ProjectState s, double T, double p, int row) {
+  Phase ph;
+  const Zustand z = Loese(s, T, p);
+  ph.v = row == PhaseL ? z.vL : z.vV;
+  int16_t err = 0;
+  ThermoFunktionen(s, T, p, ph.v, row, ph.w, err);
+  PhiFunktionen(s, row, T, p, ph.v, ph.tab.Abl1, ph.tab.Abl2, ph.tab.ResFunk, err);
+  MechKoeffizienten(row, p, ph.v, ph.tab.Abl1, ph.mech, err);
+  return ph;
+}
+
+// Kind 8 in the liquid with every block: cells 19 to 28 and 39 are the caloric functions, g as h - T*s;
+// cells 35 to 38 and the record's tables come from the residual block.
+TEST(CalcBatchFunktionen, Kind8WithAllBlocksInTheLiquid) {
+  Rechnung r(StoffMitModell(CasMethan, 6));
+  r.k.Abschnitte = 4;
+  r.k.MitFunktionen = true;
+  const Phase d = Direkt(r.s, 120, 2000, PhaseL);
+  r.Vorgabe(120, 2000).Rechne(8);
+  ASSERT_FALSE(r.k.ErrorFlag);
+  const std::array<std::pair<int, double>, 10> zellen{{{ZelleVL, d.v},
+                                                       {ZelleHL, d.w.h},
+                                                       {ZelleSL, d.w.s},
+                                                       {ZelleGL, d.w.h - 120 * d.w.s},
+                                                       {ZelleEHL, d.w.eh},
+                                                       {ZelleCvL, d.w.cv},
+                                                       {ZelleSchallL, d.w.w},
+                                                       {ZelleDeltaL, d.tab.ResFunk[PhaseL][7]},
+                                                       {ZelleAlphaL, d.mech[PhaseL][1]},
+                                                       {ZelleChiL, d.mech[PhaseL][2]}}};
+  for (const auto& [zelle, wert] : zellen)
+    EXPECT_REL(r.Zelle(zelle), wert, 1e-12) << "cell " << zelle;
+  EXPECT_EQ(r.Zelle(ZelleVV), 0);
+  const StapelErgebnis& z = r.Satz();
+  EXPECT_EQ(z.Phase, " L ");
+  EXPECT_EQ(z.hFu, static_cast<float>(d.w.h));
+  EXPECT_EQ(z.Abl1[PhaseL][1], static_cast<float>(d.tab.Abl1[PhaseL][1]));
+  EXPECT_EQ(z.Fuga[PhaseL][0], static_cast<float>(d.tab.ResFunk[PhaseL][0]));
+  EXPECT_EQ(z.Mech[PhaseL][2], static_cast<float>(d.mech[PhaseL][3]));
+  EXPECT_EQ(z.vFu, static_cast<float>(d.v));
+  WieGespeichert(r.seite, "art8_alle_bloecke");
+}
+
+// Kind 8 above T(cr) in kJ/kg and m^3/kg: the cells divided by the molar mass, the derivatives taken
+// per kg, the unit texts cut to their field of 14 characters.
+TEST(CalcBatchFunktionen, Kind8InSpecificUnits) {
+  Rechnung r(StoffMitModell(CasMethan, 6));
+  r.s.Einheiten.VolumenMode = 1;
+  r.s.Einheiten.EnergieMode = 3;
+  SetzeEinheiten(r.s, r.ui);
+  r.k.Abschnitte = 3;
+  const Phase d = Direkt(r.s, 300, 1000, PhaseV);
+  const double M = r.s.Stoff.MolMasse;
+  r.Vorgabe(300, 1000).Rechne(8);
+  EXPECT_REL(r.Zelle(ZelleVV), d.v / M, 1e-12);
+  EXPECT_REL(r.Zelle(ZelleGV), (d.w.h - 300 * d.w.s) / M, 1e-12);
+  EXPECT_REL(r.Zelle(ZelleSchallV), d.w.w, 1e-12);
+  const std::string& t = r.seite.Liste.text;
+  EXPECT_NE(t.find("Ableitungen nach T, p, V(spezif.)"), std::string::npos);
+  EXPECT_NE(t.find(" (dp/dV) bei T : " + FormatVB(d.tab.Abl1[PhaseV][1] * M, Format)), std::string::npos);
+  EXPECT_NE(t.find("       d2p/dV² : " + FormatVB(d.tab.Abl2[PhaseV][1] * M * M, Format)), std::string::npos);
+  EXPECT_NE(t.find(FestText("Entropie", 17) + "s / (kJ/(kg K) = "), std::string::npos);
+  EXPECT_EQ(t.find("Joule-Thomson"), std::string::npos);
+}
+
+// The fugacity block alone, for a two-phase state of kind 1: both columns, the JT coefficients in cells
+// 34 and 38, no derivatives and no inflection points.
+TEST(CalcBatchFunktionen, FugacityBlockOfBothPhases) {
+  Rechnung r(StoffMitModell(CasMethan, 6));
+  r.k.Abschnitte = 2;
+  r.Vorgabe(150, 0, 100).Rechne(1);
+  KalorikTabellen tab;
+  int16_t err = 0;
+  for (int row : {PhaseL, PhaseV})
+    PhiFunktionen(r.s, row, 150, r.p, r.Zelle(row == PhaseL ? ZelleVL : ZelleVV), tab.Abl1, tab.Abl2,
+                  tab.ResFunk, err);
+  EXPECT_REL(r.Zelle(ZelleDeltaV), tab.ResFunk[PhaseV][7], 1e-12);
+  EXPECT_REL(r.Zelle(ZelleDeltaL), tab.ResFunk[PhaseL][7], 1e-12);
+  const std::string& t = r.seite.Liste.text;
+  EXPECT_NE(t.find(" (Joule-Thomson-Koeff. [K/kPa]):\r\n" + std::string(17, ' ') +
+                   FormatVB(tab.ResFunk[PhaseL][7], Format) + std::string(18, ' ') +
+                   FormatVB(tab.ResFunk[PhaseV][7], Format) + "\r\n"),
+            std::string::npos);
+  EXPECT_EQ(t.find("Ableitungen nach"), std::string::npos);
+  EXPECT_EQ(t.find("Wendepunkt"), std::string::npos);
+}
+
+// A virial model: no inflection points, its coefficient as the parameter block; the missing liquid
+// leaves 13 blanks in its column. ln phi of the virial equation is B*p/(R*T).
+TEST(CalcBatchFunktionen, VirialModelBlocks) {
+  Rechnung r(StoffMitModell(CasWasser, 16));
+  r.k.Abschnitte = 4;
+  r.Vorgabe(500, 100).Rechne(3);
+  const std::string& t = r.seite.Liste.text;
+  const double B = BvonT(r.s, 16, 500);
+  EXPECT_EQ(t.find("Wendepunkt"), std::string::npos);
+  EXPECT_NE(t.find("     ln (phi*) : " + std::string(13 + 18, ' ') +
+                   FormatVB(B * 100 / (RGas * 500), Format) + "\r\n"),
+            std::string::npos);
+  EXPECT_NE(
+      t.find("Virialkoeffizient (VIRIAL-EOS Pitzer / Curl):\r\n  B =" + SingleText(static_cast<float>(B))),
+      std::string::npos);
+}
+
+// The cubic parameter block shows a, b, c, d of the EOS at the state's T.
+TEST(CalcBatchFunktionen, ParameterBlockAtTheStatesTemperature) {
+  Rechnung r(StoffMitModell(CasWasser, 5));
+  r.Vorgabe(400, 100).Rechne(3);
+  ProjectState d = r.s;
+  EOSbeiT(d, 400);
+  const std::string kopf = "Parameter der generalisierten kub. EOS (CEOS Soave / Redlich / Kwong):";
+  EXPECT_NE(r.seite.Liste.text.find(kopf + "\r\n" + std::string(Utf8Laenge(kopf), '=') +
+                                    "\r\n  A = " + SingleText(static_cast<float>(d.EOS.aT)) +
+                                    "\r\n  B = " + SingleText(static_cast<float>(d.EOS.bT))),
+            std::string::npos);
+}
+
+} // namespace
+} // namespace quor

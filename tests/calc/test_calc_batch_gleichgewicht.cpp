@@ -1,0 +1,146 @@
+// Equilibrium kinds of the dispatcher: T => p(LV) and p => T(LV), GLOBAL from the cubic EOS and PARTIAL
+// from the vapour-pressure equation with Benson's liquid; the enthalpy of vaporization at T or p.
+#include "calc/calc_testhilfe.h"
+#include "core/zahlformat.h"
+#include "engine/virial.h"
+#include "support/relativ.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+double Enthalpie(ProjectState s, int methode, double T, double p) {
+  HLVErgebnis erg;
+  int16_t failed = 0;
+  const double h = HLVBerechnen(s, methode, T, p, FrostKalkwarfDB, false, erg, failed);
+  EXPECT_EQ(failed, 0);
+  return h;
+}
+
+// GLOBAL: the saturated roots of the EOS, the enthalpy of vaporization of its two roots in cells 29,
+// 30, the record of an equilibrium; p => T(LV) the same way round.
+TEST(CalcBatchGleichgewicht, GlobalFromTheCubicEquation) {
+  Rechnung t(StoffMitModell(CasMethan, 6));
+  ProjectState d = t.s;
+  const double p = DruckLV(d, 150), L = d.EOS.VRoots[0], V = d.EOS.VRoots[2];
+  t.Vorgabe(150, 0).Rechne(4);
+  EXPECT_EQ(t.Zelle(ZelleP), p);
+  EXPECT_EQ(t.Zelle(ZelleVL), L);
+  EXPECT_EQ(t.Zelle(ZelleVV), V);
+  const double h = Enthalpie(d, HLVAusKubischerEOS, 150, p);
+  EXPECT_REL(t.Zelle(ZelleDhLV), h, 1e-12);
+  EXPECT_REL(t.Zelle(ZelleDsLV), h / 150, 1e-12);
+  EXPECT_EQ(t.Satz().Phase, "V+L");
+  EXPECT_EQ(t.Satz().pCalc, static_cast<float>(p));
+  EXPECT_EQ(t.Satz().rhoLCalc, static_cast<float>(t.s.Stoff.MolMasse / L));
+  EXPECT_EQ(t.Satz().dhCalc, static_cast<float>(h));
+  WieGespeichert(t.seite, "art4_global");
+
+  Rechnung r(StoffMitModell(CasMethan, 6));
+  const double T = TemperaturLV(d, 1000);
+  r.Vorgabe(0, 1000).Rechne(5);
+  EXPECT_EQ(r.Zelle(ZelleT), T);
+  EXPECT_EQ(r.Zelle(ZelleVV), d.EOS.VRoots[2]);
+  EXPECT_REL(r.Zelle(ZelleDhLV), Enthalpie(d, HLVAusKubischerEOS, T, 1000), 1e-12);
+  EXPECT_EQ(r.Satz().TCalc, static_cast<float>(T));
+  WieGespeichert(r.seite, "art5_global");
+}
+
+// Above the critical point there is no equilibrium: the given value turns red.
+TEST(CalcBatchGleichgewicht, AboveTheCriticalPoint) {
+  Rechnung r(StoffMitModell(CasMethan, 6));
+  r.Vorgabe(200, 5000).Rechne(4);
+  EXPECT_TRUE(r.k.ErrorFlag);
+  EXPECT_EQ(r.seite.par1.text, "T = 200.000 K > T(cr) !!!");
+  EXPECT_EQ(r.seite.par1.farbe, TextFarbe::Rot);
+  EXPECT_EQ(r.Satz().Phase, "   ");
+  EXPECT_EQ(r.Rechne(5).seite.par1.text, "p = 5000.000 kPa > p(cr) !!!");
+  EXPECT_EQ(r.Vorgabe(190.56, 0).Rechne(6).seite.par1.text, "T = 190.560 K >= T(cr) !!!");
+}
+
+// PARTIAL with a virial model: p(LV) from the vapour-pressure equation, V = B + R*T/p(LV) without any
+// root of an equation, the liquid on Benson's straight diameter. Without an equation the point's
+// pressure stands in, and without it there is no result.
+TEST(CalcBatchGleichgewicht, PartialWithAVirialModel) {
+  Rechnung r(StoffMitModell(CasMethan, 14));
+  ReferenzpunktMethan(r.s);
+  r.Vorgabe(150, 0).Rechne(4);
+  ProjectState d = r.s;
+  int16_t f = 0;
+  const double p = pLV(d, 150, FrostKalkwarfDB, false, f);
+  const double V = BvonT(d, 14, 150) + RGas * 150 / p;
+  EXPECT_EQ(r.seite.co1.text, "p(LV) aus aktueller Dampfdruckgleichung Frost/Kalkwarf (MDB-Gl):");
+  EXPECT_EQ(r.Zelle(ZelleP), p);
+  EXPECT_REL(r.Zelle(ZelleVV), V, 1e-14);
+  EXPECT_REL(r.Zelle(ZelleVL), d.Stoff.MolMasse / BensonMethan(d, 150, d.Stoff.MolMasse / V), 1e-12);
+  EXPECT_FALSE(r.seite.cmdCEOSDiagnoseVerfuegbar);
+
+  r.s.Modell.DampfdruckIndex = 0;
+  EXPECT_EQ(r.Vorgabe(150, 800).Rechne(4).seite.txtco2.text, " p(LV)(aus Datenpunkt) = 800.0 kPa");
+  EXPECT_EQ(r.Vorgabe(150, 0).Rechne(4).seite.txtco2.text, "  kein p(LV) aus Datenpunkt verfügbar");
+  EXPECT_TRUE(r.k.ErrorFlag);
+}
+
+// GLOBAL with a virial model: T(LV) from the equation, a framed note instead of densities.
+TEST(CalcBatchGleichgewicht, GlobalWithAVirialModelHasNoDensities) {
+  Rechnung r(StoffMitModell(CasMethan, 14));
+  r.s.Modell.RechnungGlobal = true;
+  r.Vorgabe(0, 1000).Rechne(5);
+  std::string rahmen;
+  for (int i = 0; i < 75; ++i)
+    rahmen += "\u00AD";
+  EXPECT_EQ(r.seite.Liste.text.find(rahmen +
+                                    "\r\n          (Dichte-Berechnung nicht möglich mit "
+                                    "Dampfdruckgleichung)\r\n" +
+                                    rahmen + "\r\n"),
+            0u);
+  EXPECT_EQ(r.Zelle(ZelleVV), 0);
+}
+
+// Kind 6 by the database function (whole kJ/kmol) and by Chen with the pressure found; kind 7 from
+// the EOS; without a method no result. In kJ/kg the value is divided by the molar mass.
+TEST(CalcBatchGleichgewicht, EnthalpyOfVaporization) {
+  Rechnung db(StoffMitModell(CasMethan, 6, HLVGleichung));
+  db.Vorgabe(120, 0).Rechne(6);
+  const double h = Enthalpie(db.s, HLVGleichung, 120, 0);
+  EXPECT_EQ(db.Zelle(ZelleDhLV), h);
+  EXPECT_EQ(db.Zelle(ZelleDsLV), h / 120);
+  EXPECT_EQ(db.Satz().dhCalc, static_cast<float>(h));
+  EXPECT_FALSE(db.seite.cmdCEOSDiagnoseVerfuegbar);
+  WieGespeichert(db.seite, "art6_datenbank");
+
+  Rechnung chen(StoffMitModell(CasMethan, 6, HLVChen));
+  chen.Vorgabe(120, 0).Rechne(6);
+  int16_t f = 0;
+  const double p = pLV(chen.s, 120, FrostKalkwarfDB, false, f);
+  EXPECT_EQ(chen.Zelle(ZelleP), p);
+  EXPECT_EQ(chen.Zelle(ZelleDhLV), Enthalpie(chen.s, HLVChen, 120, p));
+
+  Rechnung eos(StoffMitModell(CasMethan, 6, HLVAusKubischerEOS));
+  eos.Vorgabe(0, 1000).Rechne(7);
+  const double T = TemperaturLV(eos.s, 1000);
+  EXPECT_REL(eos.Zelle(ZelleT), T, 1e-12);
+  EXPECT_REL(eos.Zelle(ZelleDhLV), Enthalpie(eos.s, HLVAusKubischerEOS, T, 1000), 1e-9);
+  EXPECT_TRUE(eos.seite.cmdCEOSDiagnoseVerfuegbar);
+  WieGespeichert(eos.seite, "art7_eos");
+
+  Rechnung keine(StoffMitModell(CasMethan, 6, HLVKeine));
+  keine.Vorgabe(120, 0).Rechne(6);
+  EXPECT_TRUE(keine.k.ErrorFlag);
+  EXPECT_EQ(keine.seite.Liste.text, "Verdampfungsenthalpie aus keine\r\nkein Ergebnis erhalten");
+
+  Rechnung kg(StoffMitModell(CasWasser, 6, HLVGleichung));
+  kg.s.Einheiten.EnergieMode = 3;
+  kg.Vorgabe(373.15, 0).Rechne(6);
+  const double hkg = Enthalpie(kg.s, HLVGleichung, 373.15, 0) / kg.s.Stoff.MolMasse;
+  EXPECT_REL(kg.Zelle(ZelleDhLV), hkg, 1e-15);
+  EXPECT_NE(
+      kg.seite.Liste.text.find("delta(LV)h/(kJ/kg)" + std::string(20, ' ') + FormatVB(hkg, "##########.0")),
+      std::string::npos);
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,121 @@
+// The diagnostics of the cubic equation: the roots of the last state with their stability notes in
+// the display's volume unit, and the picture that fits the case.
+#include "calc/ceos_diagnose.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+ProjectState Kubisch() {
+  ProjectState s;
+  InitProjectState(s);
+  s.Stoff.TKrit = 369.83;
+  s.Stoff.MolMasse = 44.097f;
+  s.Modell.EOSIndex = 6;
+  return s;
+}
+
+LetzterZustand DreiWurzeln(bool hatL, bool hatV) {
+  LetzterZustand z;
+  z.T = 300;
+  z.pLetzt = 1000;
+  z.V = {0.09, 0.3, 2.0};
+  z.AnzahlWurzeln = 3;
+  z.HatL = hatL;
+  z.HatV = hatV;
+  return z;
+}
+
+// With three roots the middle one is unstable; the outer roots are stable or metastable by the
+// phase that exists, and both stable at equilibrium.
+TEST(CEOSDiagnose, ThreeRootsCarryTheirStability) {
+  const ProjectState s = Kubisch();
+  const LetzterZustand dampf = DreiWurzeln(false, true);
+  frmCEOSDiagnose d(s, dampf);
+  d.Form_Load();
+  EXPECT_EQ(d.lblEOS, "CEOS Peng / Robinson");
+  EXPECT_EQ(d.lblT, "T = 300.000 K");
+  EXPECT_EQ(d.lblp, "p = 1000.000 kPa");
+  EXPECT_EQ(d.pctEOS, frmCEOSDiagnose::Bild::DreiWurzelnUnterkritisch);
+  ASSERT_EQ(d.Wurzeln.size(), 3u);
+  EXPECT_EQ(d.Wurzeln[0], "v(1) = 0.09 m^3/kmol   (metastabil)");
+  EXPECT_EQ(d.Wurzeln[1], "v(2) = 0.3 m^3/kmol   (instabil)");
+  EXPECT_EQ(d.Wurzeln[2], "v(3) = 2 m^3/kmol   (stabil, V-Phase)");
+
+  const LetzterZustand fluessig = DreiWurzeln(true, false);
+  frmCEOSDiagnose l(s, fluessig);
+  l.Form_Load();
+  EXPECT_EQ(l.Wurzeln[0], "v(1) = 0.09 m^3/kmol   (stabil, L-Phase)");
+  EXPECT_EQ(l.Wurzeln[1], "v(2) = 0.3 m^3/kmol   (instabil)");
+  EXPECT_EQ(l.Wurzeln[2], "v(3) = 2 m^3/kmol   (metastabil)");
+
+  const LetzterZustand gleichgewicht = DreiWurzeln(true, true);
+  frmCEOSDiagnose g(s, gleichgewicht);
+  g.Form_Load();
+  EXPECT_EQ(g.Wurzeln[0], "v(1) = 0.09 m^3/kmol   (stabil, L-Phase)");
+  EXPECT_EQ(g.Wurzeln[1], "v(2) = 0.3 m^3/kmol   (instabil)");
+  EXPECT_EQ(g.Wurzeln[2], "v(3) = 2 m^3/kmol   (stabil, V-Phase)");
+}
+
+// One root: below TKrit it is the phase's stable root, at TKrit and above it gets the supercritical
+// picture; a single fluid flagged as both phases gets no phase note.
+TEST(CEOSDiagnose, OneRootBelowAndAboveTheCriticalTemperature) {
+  const ProjectState s = Kubisch();
+  LetzterZustand z;
+  z.T = 300;
+  z.pLetzt = 5000;
+  z.V = {0.1, 0, 0};
+  z.AnzahlWurzeln = 1;
+  z.HatL = true;
+  frmCEOSDiagnose unten(s, z);
+  unten.Form_Load();
+  EXPECT_EQ(unten.pctEOS, frmCEOSDiagnose::Bild::EineWurzelUnterkritisch);
+  ASSERT_EQ(unten.Wurzeln.size(), 1u);
+  EXPECT_EQ(unten.Wurzeln[0], "v(1) = 0.1 m^3/kmol   (stabil, L-Phase)");
+
+  z.T = static_cast<float>(s.Stoff.TKrit);
+  z.HatV = true;
+  frmCEOSDiagnose oben(s, z);
+  oben.Form_Load();
+  EXPECT_EQ(oben.pctEOS, frmCEOSDiagnose::Bild::EineWurzelUeberkritisch);
+  EXPECT_EQ(oben.Wurzeln[0], "v(1) = 0.1 m^3/kmol");
+
+  EXPECT_EQ(DiagnoseBild(369.8f, 369.83, 3), frmCEOSDiagnose::Bild::DreiWurzelnUnterkritisch);
+  EXPECT_EQ(DiagnoseBild(400, 369.83, 1), frmCEOSDiagnose::Bild::EineWurzelUeberkritisch);
+  EXPECT_EQ(DiagnoseBild(300, 369.83, 0), frmCEOSDiagnose::Bild::Keins);
+}
+
+// Volumes are shown with the display factor and unit: per kg here.
+TEST(CEOSDiagnose, VolumesInTheDisplayUnit) {
+  ProjectState s = Kubisch();
+  s.Einheiten.VolumenFaktor = 1.0 / 44.097;
+  s.Einheiten.vEinheit = " m^3/kg  ";
+  const LetzterZustand z = DreiWurzeln(false, true);
+  frmCEOSDiagnose d(s, z);
+  d.Form_Load();
+  // 2.0 m^3/kmol / 44.097 kg/kmol = 0.04535456 m^3/kg
+  EXPECT_EQ(d.Wurzeln[2], "v(3) = 0.04535456 m^3/kg     (stabil, V-Phase)");
+}
+
+// Without a cubic model or without a solved state the dialog stays empty.
+TEST(CEOSDiagnose, NothingWithoutACubicModelOrAState) {
+  ProjectState virial = Kubisch();
+  virial.Modell.EOSIndex = 14;
+  const LetzterZustand z = DreiWurzeln(false, true);
+  frmCEOSDiagnose v(virial, z);
+  v.Form_Load();
+  EXPECT_TRUE(v.Wurzeln.empty());
+  EXPECT_EQ(v.pctEOS, frmCEOSDiagnose::Bild::Keins);
+
+  const ProjectState s = Kubisch();
+  const LetzterZustand leer;
+  frmCEOSDiagnose ohne(s, leer);
+  ohne.Form_Load();
+  EXPECT_TRUE(ohne.Wurzeln.empty());
+  ohne.cmdClose_Click();
+  EXPECT_TRUE(ohne.Geschlossen);
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,205 @@
+// The record of results: the CSV file of a batch against its golden file, columns left out when they
+// sum to zero, the clipboard with tabs whatever the delimiter, the file name from the date.
+#include "calc/ergebnis_seite.h"
+#include "calc/protokoll.h"
+#include "core/text_kodierung.h"
+#include "test_ergebnis_seite_daten.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+ErgebnisVektor Vektor(std::initializer_list<std::pair<int, double>> zellen) {
+  ErgebnisVektor e{};
+  for (const auto& [zelle, wert] : zellen)
+    e[static_cast<std::size_t>(zelle)] = wert;
+  return e;
+}
+
+// The vectors of the batch: cell 31 (alpha(V)) cancels to a sum of exactly 0 over the three records,
+// cell 16 (" eU(V)", the name with the leading blank) is set, cell 40 stays 0.
+RechnungsAttrappe ProtokollRechnung() {
+  RechnungsAttrappe r = StapelRechnung();
+  r.vektoren[1] = Vektor({{ZelleT, 300},
+                          {ZelleP, 1012.5},
+                          {ZelleVV, 2.5},
+                          {ZelleEUV, -1250.25},
+                          {ZelleVL, 0.088},
+                          {ZelleDhLV, 40000},
+                          {ZelleDsLV, 133.3333333},
+                          {ZelleAlphaV, 0.5}});
+  r.vektoren[2] = Vektor({{ZelleT, 320},
+                          {ZelleP, 1480.25},
+                          {ZelleVV, 1.75},
+                          {ZelleEUV, 2e-7},
+                          {ZelleVL, 0.09},
+                          {ZelleDhLV, 40000},
+                          {ZelleDsLV, 125},
+                          {ZelleAlphaV, -0.5}});
+  r.vektoren[5] = Vektor({{ZelleT, 360},
+                          {ZelleP, 2500.125},
+                          {ZelleVV, 0.5},
+                          {ZelleVL, 0.105},
+                          {ZelleDhLV, 1e5},
+                          {ZelleDsLV, 277.7777778}});
+  return r;
+}
+
+struct ProtokollSeite {
+  TempVerzeichnis tmp;
+  ProjectState s = StapelZustand(tmp.Pfad());
+  ui::SkriptOberflaeche ui;
+  RechnungsAttrappe rechnung = ProtokollRechnung();
+  frmQCalcOut seite{s, ui, true, rechnung.Funktion()};
+
+  void Oeffnen() {
+    seite.Datum = "14.03.2024";
+    seite.Form_Load();
+  }
+  // Records points 1, 2 and 5 while paging forward.
+  void DreiAufnehmen() {
+    seite.cmdProtokoll_Click();
+    seite.cmdVor_Click();
+    seite.cmdProtokoll_Click();
+    seite.cmdVor_Click();
+    seite.cmdVor_Click();
+    seite.cmdProtokoll_Click();
+  }
+};
+
+// Three results recorded while paging, then closed: the CSV file, the clipboard and the next name.
+TEST(Protokoll, RecordFileOfABatchMatchesGoldenFile) {
+  ProtokollSeite p;
+  p.Oeffnen();
+  EXPECT_EQ(p.seite.lblProtText2, "24140301.CSV");
+  EXPECT_FALSE(p.seite.cmdOpenNewEnabled);
+  p.DreiAufnehmen();
+  EXPECT_EQ(p.seite.AktuellerPunkt, 5);
+  EXPECT_EQ(p.seite.Protokoll.ProtokollAnzahl, 3);
+  EXPECT_TRUE(p.seite.cmdOpenNewEnabled);
+  p.seite.cmdOpenNew_Click();
+
+  const std::string datei = LeseDatei(p.tmp.Datei("24140301.CSV"));
+  ASSERT_FALSE(datei.empty());
+  VergleicheMitGolden("24140301.CSV", datei);
+  // The column that cancels to 0 is left out, the one that is 0 throughout too.
+  EXPECT_EQ(datei.find("alpha(V)"), std::string::npos);
+  EXPECT_EQ(datei.find("sound speed"), std::string::npos);
+  EXPECT_NE(datei.find("; eU(V);"), std::string::npos);
+
+  std::string mitTabs = datei;
+  std::replace(mitTabs.begin(), mitTabs.end(), ';', '\t');
+  EXPECT_EQ(p.ui.zwischenablage, mitTabs);
+  EXPECT_EQ(p.seite.lblProtText2, "24140302.CSV");
+  EXPECT_FALSE(p.seite.Protokoll.ProtokollOffen);
+  EXPECT_EQ(p.seite.Protokoll.ProtokollAnzahl, 0);
+  EXPECT_FALSE(p.seite.cmdOpenNewEnabled);
+  EXPECT_TRUE(p.ui.protokoll.empty()); // no message on the way
+}
+
+// With "," as delimiter and a decimal comma in the system a warning comes with each record; the file
+// is separated by commas, the clipboard by tabs all the same.
+TEST(Protokoll, CommaDelimiterWarnsAndStillGivesTabsOnTheClipboard) {
+  ProtokollSeite p;
+  p.s.Optionen.CsvTrenner = ',';
+  p.s.Optionen.DezimalKomma = true;
+  p.Oeffnen();
+  p.seite.cmdProtokoll_Click();
+  p.seite.cmdVor_Click();
+  p.seite.cmdProtokoll_Click();
+  ASSERT_EQ(p.ui.Meldungen().size(), 2u);
+  EXPECT_EQ(p.ui.Meldungen()[0].titel, "Warnung Trennzeichen (Delimiter)");
+  EXPECT_EQ(p.ui.Meldungen()[0].text,
+            "Bei Computereinstellung \"Deutschland\" (Dezimalzeichen Komma)\r\n"
+            "ist Komma als Dateitrennzeichen nicht sinnvoll; der Clipboard-Inhalt\r\n"
+            "ist nicht mehr Excel-kompatibel.\r\n\r\n"
+            "unbedingte Empfehlung: Semikolon (Einstellung unter \"Optionen\")");
+  EXPECT_EQ(p.seite.Protokoll.ProtokollAnzahl, 2); // the work goes on
+
+  p.seite.cmdOpenNew_Click();
+  const std::string datei = LeseDatei(p.tmp.Datei("24140301.CSV"));
+  EXPECT_NE(datei.find("\r\nT,p,v(V), eU(V),v(L),delta(LV)h,delta(LV)s,\r\n300,1012.5,"), std::string::npos);
+  EXPECT_EQ(p.ui.zwischenablage.find(','), std::string::npos);
+  EXPECT_NE(p.ui.zwischenablage.find("\r\nT\tp\tv(V)\t eU(V)\tv(L)\tdelta(LV)h\tdelta(LV)s\t\r\n"),
+            std::string::npos);
+
+  // Without a decimal comma the comma is no cause for a warning.
+  ProtokollSeite q;
+  q.s.Optionen.CsvTrenner = ',';
+  q.Oeffnen();
+  q.seite.cmdProtokoll_Click();
+  EXPECT_TRUE(q.ui.Meldungen().empty());
+}
+
+// Closing the page closes an open record the same way.
+TEST(Protokoll, ClosingThePageWritesAnOpenRecord) {
+  ProtokollSeite p;
+  p.Oeffnen();
+  p.seite.cmdProtokoll_Click();
+  p.seite.Form_Unload();
+  EXPECT_TRUE(DateiExistiert(p.tmp.Datei("24140301.CSV")));
+  EXPECT_NE(p.ui.zwischenablage.find("300\t1012.5\t"), std::string::npos);
+  EXPECT_TRUE(p.seite.Entladen);
+
+  ProtokollSeite ohne; // nothing recorded: no file
+  ohne.Oeffnen();
+  ohne.seite.Form_Unload();
+  EXPECT_FALSE(DateiExistiert(ohne.tmp.Datei("24140301.CSV")));
+}
+
+// yy dd mm from a date "dd.mm.yyyy", then the running number, raised past existing files with a
+// leading zero below 10.
+TEST(Protokoll, FileNameFromTheDateSkipsExistingFiles) {
+  TempVerzeichnis tmp;
+  EXPECT_EQ(NeuerProtokollName(tmp.Pfad(), "07.11.2025"), "25071101.CSV");
+  for (int i = 1; i <= 9; ++i)
+    ASSERT_TRUE(SchreibeDateiBytes(tmp.Datei("2507110" + std::to_string(i) + ".CSV"), "x"));
+  EXPECT_EQ(NeuerProtokollName(tmp.Pfad(), "07.11.2025"), "25071110.CSV");
+}
+
+// The unit lines follow the volume and energy modes; energy modes 1 and 2 write no line of their own.
+TEST(Protokoll, UnitLinesFollowTheDisplayModes) {
+  ProjectState s = StapelZustand("");
+  ProtokollZustand p;
+  p.ProtokollWerte.push_back({});
+  p.ProtokollWerte[0][0] = 300;
+  p.ProtokollAnzahl = 1;
+  auto zeilen = [&] {
+    const std::string t = ProtokollText(s, p, "14.03.2024");
+    std::vector<std::string> z;
+    for (std::size_t a = 0, e; (e = t.find("\r\n", a)) != std::string::npos; a = e + 2)
+      z.push_back(t.substr(a, e - a));
+    return z;
+  };
+  ASSERT_EQ(ProtokollSpalten().size(), static_cast<std::size_t>(ErgebnisZellen));
+  auto z = zeilen();
+  ASSERT_EQ(z.size(), 8u);
+  EXPECT_EQ(z[0], "QUOR-6: p-V-T Calculations of States and Processes - record from 14.03.2024");
+  EXPECT_EQ(z[2], "CEOS Peng / Robinson");
+  EXPECT_EQ(z[3], "units: [T] = K   [p] = kPa   [B] = m^3/kmol    [v] = m^3/kmol ");
+  EXPECT_EQ(z[4], "molar SI-units for function z: [z] = kJ/kmol or kJ/(kmol K)");
+  EXPECT_EQ(z[6], "T;");
+  EXPECT_EQ(z[7], "300;");
+
+  s.Einheiten.VolumenMode = 1;
+  s.Einheiten.EnergieMode = 3;
+  z = zeilen();
+  EXPECT_EQ(z[3], "units: [T] = K   [p] = kPa   [B] = m^3/kmol    [v] = m^3/kg");
+  EXPECT_EQ(z[4], "specific SI-units for function z: [z] = kJ/kg or kJ/(kg K)");
+
+  s.Einheiten.VolumenMode = 2;
+  s.Einheiten.EnergieMode = 2;
+  z = zeilen();
+  ASSERT_EQ(z.size(), 7u);
+  EXPECT_EQ(z[3], "units: [T] = K   [p] = kPa   [B] = m^3/kmol    [v(red)] = 1");
+  EXPECT_EQ(z[4], "");
+}
+
+} // namespace
+} // namespace quor

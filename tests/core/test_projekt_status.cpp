@@ -1,0 +1,123 @@
+// The project status report: a new project, a loaded one with its database, substance and measured
+// data, and the warning for a data file of another substance.
+#include "core/projekt_status.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+ProjectState MitStoff() {
+  ProjectState s;
+  InitProjectState(s);
+  s.Datenbank.DatenbankGeladen = true;
+  s.Datenbank.DatenbankTyp = 7;
+  s.Datenbank.PfadQ07 = "QUOR.Q07";
+  s.Datenbank.StoffAnzahl = 430;
+  s.Datenbank.StoffIndex = 1;
+  s.Stoff.Formel = "CH4";
+  s.Stoff.StoffName = "Methan";
+  s.Stoff.CASRN = "74-82-8";
+  s.Modell.EOSIndex = 6;
+  s.Einheiten.TVorgabe = 190.56f;
+  s.Einheiten.pVorgabe = 4599;
+  s.Einheiten.vVorgabe = 0.1f;
+  return s;
+}
+
+TEST(ProjektStatus, DescribesANewProject) {
+  ProjectState s;
+  InitProjectState(s);
+  EXPECT_STREQ(ProjektStatusTitel, " Info Projekt-Status ");
+  EXPECT_EQ(ProjektStatusText(s),
+            "Projekt\r\n"
+            "    neu (noch unbenannt)\r\n"
+            "    (noch nicht vollständig definiert)\r\n"
+            "    Projektkommentar: <>\r\n"
+            "\r\n"
+            "Stoffdatenbank\r\n"
+            "    (noch keine)\r\n"
+            "\r\n"
+            "Stoff\r\n"
+            "    noch kein Stoff\r\n"
+            "\r\n"
+            "experimentelle T-p-rho-HLV-cp-Daten\r\n"
+            "    keine\r\n"
+            "\r\n"
+            "Vorgabe-Parameter für isotherme, isobare, isochore Diagramme\r\n"
+            "    T/K = 0, p/kPa = 0, v/(m^3/kmol) = 0\r\n"
+            "\r\n"
+            "(weitere geladene Projekt-Parameter s. unter \"Modelle\" und \"Optionen\")\r\n");
+}
+
+TEST(ProjektStatus, DescribesALoadedProjectWithUnsavedData) {
+  ProjectState s = MitStoff();
+  s.Projekt.LetzteSitzung = true;
+  s.Projekt.ProjektDatum = "01.02.2024";
+  s.Projekt.DateiKommentar = "Erdgas";
+  s.Mess.ExpAnzahl = 1;
+  EXPECT_EQ(ProjektStatusText(s),
+            "Projekt\r\n"
+            "    letzte Sitzung\r\n"
+            "    Dateidatum 01.02.2024\r\n"
+            "    Projektkommentar: Erdgas\r\n"
+            "\r\n"
+            "Stoffdatenbank\r\n"
+            "    QUOR.Q07 mit 430 Stoff(en)\r\n"
+            "\r\n"
+            "Stoff\r\n"
+            "    CH4   Methan   CAS-RN: 74-82-8\r\n"
+            "\r\n"
+            "experimentelle T-p-rho-HLV-cp-Daten\r\n"
+            "    1 exper. Punkt verfügbar,\r\n"
+            "    noch nicht gespeichert.\r\n"
+            "\r\n"
+            "Vorgabe-Parameter für isotherme, isobare, isochore Diagramme\r\n"
+            "    T/K = 190.56, p/kPa = 4599, v/(m^3/kmol) = 0.1\r\n"
+            "    (Der v-Parameter v(crit.) wurde mit der CEOS Peng / Robinson berechnet.)\r\n"
+            "\r\n"
+            "(weitere geladene Projekt-Parameter s. unter \"Modelle\" und \"Optionen\")\r\n");
+
+  s.Projekt.LetzteSitzung = false;
+  s.Projekt.ProjektDatei = "Erdgas.QC6";
+  s.Mess.ExpAnzahl = 12;
+  const std::string text = ProjektStatusText(s);
+  EXPECT_NE(text.find("Projekt\r\n    Erdgas.QC6\r\n    Dateidatum 01.02.2024\r\n"), std::string::npos);
+  EXPECT_NE(text.find("    12 exper. Punkte verfügbar,\r\n"), std::string::npos);
+}
+
+TEST(ProjektStatus, NamesTheDataFileAndWarnsWhenItsSubstanceDiffers) {
+  ProjectState s = MitStoff();
+  s.Mess.ExpAnzahl = 3;
+  s.Mess.BatchDateiPfad = "daten/methan.BAQ";
+  s.Mess.BatchDateiTitel = "methan.BAQ";
+  s.Mess.BatchDatum = "03.04.2023";
+  s.Mess.BatchStoff = "Methan";
+  s.Mess.BatchCAS = "74-82-8";
+  const std::string datei = "experimentelle T-p-rho-HLV-cp-Daten\r\n"
+                            "    File methan.BAQ vom 03.04.2023\r\n"
+                            "    mit 3 experimentellen Punkten\r\n"
+                            "    Stoff: Methan\r\n"
+                            "    Dateikommentar:<>\r\n"
+                            "\r\n";
+  EXPECT_NE(ProjektStatusText(s).find(datei), std::string::npos);
+  EXPECT_FALSE(DatenfileStoffFremd(s));
+
+  s.Mess.BatchStoff = "Ethan";
+  s.Mess.BatchCAS = "74-84-0";
+  s.Mess.BatchKommentar = "Messreihe 2";
+  EXPECT_TRUE(DatenfileStoffFremd(s));
+  EXPECT_NE(ProjektStatusText(s).find("    Stoff: Ethan\r\n"
+                                      "    Dateikommentar:Messreihe 2\r\n"
+                                      "WARNUNG:\r\n"
+                                      "Der Stoff dieses Datenfiles stimmt nicht mit dem Stoff des Projekts "
+                                      "überein.\r\n"),
+            std::string::npos);
+
+  s.Mess.BatchCAS.clear(); // without a CAS number the names are compared
+  s.Mess.BatchStoff = "METHAN";
+  EXPECT_FALSE(DatenfileStoffFremd(s));
+}
+
+} // namespace
+} // namespace quor

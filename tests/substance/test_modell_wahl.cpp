@@ -1,0 +1,145 @@
+// The model window on opening: which models it offers for a substance and in what order, the
+// defaults and corrections of the model selection, the Watson exponents and the status bar.
+#include "substance/modell_wahl_hilfe.h"
+#include "support/relativ.h"
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+TEST(frmQModell, OffersEveryModelOfAFullSubstanceInItsOrder) {
+  ModellDialog d(VollerStoff());
+  EXPECT_TRUE(d.frm.Form_Load().Getestet);
+  EXPECT_EQ(d.frm.Caption, " Berechnungs-Modelle für Teststoff");
+  EXPECT_EQ(d.frm.Dampfdruck.Index, (Indizes{3, 4, 1, 2, 5, 6, 7, 8}));
+  EXPECT_EQ(d.frm.EOS.Index, (Indizes{0, 2, 3, 4, 5, 6, 7, 8, 10, 16, 11, 12, 13, 14, 15}));
+  EXPECT_EQ(d.frm.HLV.Index, (Indizes{1, 2, 3, 4, 5, 6, 7}));
+  EXPECT_EQ(d.frm.Cp.Index, (Indizes{1, 2}));
+  EXPECT_EQ(d.frm.EOS.Texte[1], d.s.Tab.EOSNamen[2]);
+
+  // Defaults: the first vapour-pressure and delta(LV)h entries, Peng/Robinson, the sinh/cosh cp.
+  const ModelSelection& m = d.s.Modell;
+  EXPECT_EQ(m.DampfdruckIndex, 3);
+  EXPECT_EQ(m.DampfdruckTag, "FRO");
+  EXPECT_EQ(m.EOSIndex, 6);
+  EXPECT_FALSE(m.VirialFlag);
+  EXPECT_EQ(m.HLVIndex, 1);
+  EXPECT_EQ(m.CpIndex, 2);
+  EXPECT_EQ(d.frm.Cp.ListIndex, 1);
+  EXPECT_EQ(d.frm.optKonzept, 0);
+  EXPECT_TRUE(d.frm.optKonzeptEnabled);
+  EXPECT_EQ(d.frm.lblRhoL, "Parameter aus Datenbank verfügbar");
+  EXPECT_EQ(d.frm.lblRhoLBereich, "Gültigkeit: T = 200 ... 480 K");
+
+  // The test ran: EOS set up (Peng/Robinson's critical volume 0.3074 R Tc/pc), status bar, menus.
+  EXPECT_REL(d.s.EOS.vKritEOS, 0.3074 * RGas * 500 / 4000, 1e-12);
+  const auto& panel = d.s.Projekt.StatusLeiste;
+  EXPECT_EQ(panel[2], "Teststoff");
+  EXPECT_EQ(panel[3], "CEOS Peng / Robinson (GLOBAL-Konzept)");
+  EXPECT_EQ(panel[4], "Dampfdruck-Gleichung: Frost/Kalkwarf (MDB-Gl)");
+  const MenueFreigaben& f = d.s.Projekt.Freigaben;
+  EXPECT_TRUE(f.Modell && f.Diagramme && f.KritischerPunkt && f.Saettigung);
+  // b0 of Peng/Robinson = 0.0777961 R Tc/pc = 0.0808545 m^3/kmol
+  EXPECT_EQ(d.frm.SchnittKurvenCaption(), "CEOS Peng / Robinson für Schnitt-Kurve ( (b = 0.08085 m^3/kmol))");
+  EXPECT_TRUE(d.ui.protokoll.empty());
+}
+
+TEST(frmQModell, LeavesOutWhatNeedsTheAcentricFactor) {
+  ProjectState s = VollerStoff();
+  s.Stoff.omega = 0;
+  ModellDialog d(std::move(s));
+  d.frm.Form_Load();
+  EXPECT_EQ(d.frm.EOS.Index, (Indizes{0, 2, 3, 4, 10, 11, 12, 13}));
+  EXPECT_EQ(d.s.Modell.EOSIndex, 4); // the default without omega
+  EXPECT_EQ(d.frm.HLV.Index, (Indizes{1, 2, 4, 5, 6}));
+  EXPECT_TRUE(d.ui.protokoll.empty()); // nothing offered needs omega, so no warning
+}
+
+TEST(frmQModell, OffersOnlyTheIdealGasWithoutCriticalData) {
+  ProjectState s;
+  InitProjectState(s);
+  s.Stoff.StoffName = "Unbekannt";
+  s.Modell.CpIndex = 2;
+  ModellDialog d(std::move(s));
+  d.frm.Form_Load();
+  EXPECT_EQ(d.frm.Dampfdruck.Index, (Indizes{0}));
+  EXPECT_EQ(d.frm.EOS.Index, (Indizes{0}));
+  EXPECT_EQ(d.frm.HLV.Index, (Indizes{0}));
+  EXPECT_EQ(d.frm.Cp.Index, (Indizes{0}));
+  EXPECT_EQ(d.frm.Dampfdruck.Texte[0], d.s.Tab.DampfdruckNamen[0]);
+  EXPECT_EQ(d.frm.Cp.Texte[0], d.s.Tab.CpNamen[0]);
+  EXPECT_EQ(d.frm.WatsonListe, (std::vector<std::string>{"0.38"}));
+  EXPECT_EQ(d.frm.lblRhoL, "Parameter nicht verfügbar");
+  const ModelSelection& m = d.s.Modell;
+  EXPECT_EQ(m.EOSIndex, 0);
+  EXPECT_EQ(m.DampfdruckTag, "000");
+  EXPECT_EQ(m.CpIndex, 0);
+  EXPECT_TRUE(m.VirialFlag);
+  EXPECT_FALSE(m.KonzeptGlobal);
+  EXPECT_FALSE(d.frm.optKonzeptEnabled);
+  EXPECT_EQ(d.s.Projekt.StatusLeiste[3], "Idealgas-EOS");
+  EXPECT_EQ(d.s.Projekt.StatusLeiste[4], "Dampfdruck-Gleichung: keine");
+  EXPECT_FALSE(d.s.Projekt.Freigaben.KritischerPunkt || d.s.Projekt.Freigaben.Saettigung);
+  EXPECT_TRUE(d.ui.protokoll.empty());
+}
+
+TEST(frmQModell, CorrectsStoredChoicesTheSubstanceCannotServe) {
+  ProjectState s = VollerStoff();
+  s.Stoff.CpPolyOK = false;
+  s.Stoff.HLVGrenzen.TLo = 0;
+  s.Stoff.WagnerGrenzen.TLo = 0;
+  s.Modell.CpIndex = 1;         // the polynomial is missing: the sinh/cosh form
+  s.Modell.HLVIndex = 1;        // the database function is missing
+  s.Modell.DampfdruckIndex = 4; // Wagner is missing
+  s.Modell.EOSIndex = 13;
+  ModellDialog d(std::move(s));
+  d.frm.Form_Load();
+  EXPECT_EQ(d.s.Modell.CpIndex, 2);
+  EXPECT_EQ(d.s.Modell.HLVIndex, 2);
+  EXPECT_EQ(d.s.Modell.DampfdruckIndex, 3);
+  EXPECT_EQ(d.s.Modell.EOSIndex, 13); // a stored choice that is offered stays
+  EXPECT_TRUE(d.s.Modell.VirialFlag);
+  EXPECT_EQ(d.frm.HLV.Index, (Indizes{2, 3, 4, 5, 6})); // no cubic route under a virial model
+
+  d.s.Stoff.CpSinhOK = false;
+  d.s.Stoff.CpPolyOK = true;
+  d.frm.Form_Load();
+  EXPECT_EQ(d.s.Modell.CpIndex, 1);
+  d.s.Stoff.CpPolyOK = false;
+  d.frm.Form_Load();
+  EXPECT_EQ(d.s.Modell.CpIndex, 0);
+  EXPECT_TRUE(d.ui.protokoll.empty()); // all of it without a message
+}
+
+TEST(frmQModell, WatsonExponentFollowsTheReducedBoilingPoint) {
+  // Tbr = TSiede/TKrit; the middle range gives 0.74 Tbr - 0.116 (0.3576 at Tbr = 0.64).
+  const std::vector<std::pair<float, std::string>> faelle{
+      {57, "0.30"}, {71, "0.41"}, {64, "0.3576"}, {40, "0.30"}, {90, "0.41"}};
+  for (const auto& [tSiede, zweiter] : faelle) {
+    ProjectState s = VollerStoff();
+    s.Stoff.TKrit = 100;
+    s.Stoff.TSiede = tSiede;
+    ModellDialog d(std::move(s));
+    d.frm.Form_Load();
+    EXPECT_EQ(d.frm.WatsonListe, (std::vector<std::string>{"0.38", zweiter})) << tSiede;
+  }
+
+  ModellDialog d(VollerStoff());
+  d.frm.Form_Load();
+  EXPECT_EQ(d.frm.WatsonText, "0.38");
+  EXPECT_EQ(d.s.Modell.WatsonExp, 0.38f);
+  EXPECT_FALSE(d.frm.WatsonVisible);
+  d.frm.HLVListe_Click(d.frm.HLV.Position(4));
+  EXPECT_TRUE(d.frm.WatsonVisible);
+  d.frm.WatsonListe_Change("0,402");
+  EXPECT_EQ(d.s.Modell.WatsonExp, 0.402f);
+  d.frm.WatsonListe_Change("0,4x"); // no number: the exponent stays
+  EXPECT_EQ(d.s.Modell.WatsonExp, 0.402f);
+  d.frm.Form_Load(); // a stored exponent stands as the text
+  EXPECT_EQ(d.frm.WatsonText, "0.402");
+  EXPECT_TRUE(d.frm.WatsonVisible);
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,145 @@
+// The dialog of the substance choice: its list and labels, the number field, the two Enter presses
+// on a name, and what OK does with the substance, the measured data and the menus.
+#include "substance/stoff_wahl.h"
+#include "substance/stoff_wahl_hilfe.h"
+#include "substance/stoff_wahl_suche.h"
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+struct Dialog {
+  ProjectState s = MitStandardDatenbank();
+  ui::SkriptOberflaeche ui;
+  frmQStoffWahl frm{s, ui};
+  Dialog() { EXPECT_TRUE(frm.Form_Load()); }
+};
+
+TEST(frmQStoffWahl, RefusesToOpenWithoutADatabase) {
+  ProjectState s;
+  ui::SkriptOberflaeche ui;
+  frmQStoffWahl frm(s, ui);
+  EXPECT_FALSE(frm.Form_Load());
+  EXPECT_EQ(ui.Letzte().text,
+            "=> über Icon \"Neues Projekt\" oder über Menüpunkt \"Daten\"\r\nStoffdaten laden");
+  EXPECT_EQ(ui.Letzte().titel, "Ausführung nicht möglich");
+}
+
+TEST(frmQStoffWahl, ListsTheDatabaseAndShowsTheSelectedRecord) {
+  Dialog d;
+  EXPECT_EQ(d.frm.Caption, "Wählen Sie einen Stoff (aus 430)");
+  ASSERT_EQ(d.frm.List1.size(), 430u);
+  const std::string kopf = frmQStoffWahl::ListenKopf;
+  const std::string& zeile = d.frm.List1[0];
+  EXPECT_EQ(zeile.find("CH4"), kopf.find("Formel")); // the columns stand under their headings
+  EXPECT_EQ(zeile.find("Methan"), kopf.find("Stoffname"));
+  EXPECT_EQ(zeile.substr(0, 2), "1 ");
+  EXPECT_EQ(d.frm.lblDatenbank, "geladene Datenbank: " + StandardDatenbank);
+  // Nothing loaded yet: the first row is selected and shown.
+  EXPECT_EQ(d.frm.ListIndex, 0);
+  EXPECT_EQ(d.frm.StoffIndexNeu, 1);
+  EXPECT_EQ(d.frm.lblCAS, " CAS-RN: 74-82-8");
+  EXPECT_EQ(d.frm.lblStruktur, "Struktur: CH4");
+  EXPECT_EQ(d.frm.NameCombo, "Methan");
+  EXPECT_EQ(d.frm.Text1, std::to_string(d.s.Datenbank.MDBNummern[1]));
+
+  const int16_t ethanol = Position(d.s, "Ethanol");
+  d.frm.List1_Click(ethanol - 1);
+  EXPECT_EQ(d.frm.StoffIndexNeu, ethanol);
+  EXPECT_EQ(d.frm.lblCAS, " CAS-RN: 64-17-5");
+  EXPECT_EQ(d.frm.lblStruktur, "Struktur: CH3CH2OH");
+  EXPECT_EQ(d.frm.NameCombo, "Ethanol");
+  EXPECT_TRUE(d.ui.protokoll.empty());
+
+  ProjectState alt;
+  alt.Datenbank.ProgrammVerzeichnis = ProgrammVerzeichnis;
+  ASSERT_TRUE(DatenbankOeffnen(alt, 6, std::string(QUOR_TESTDATEN) + "/datenbank/AUSWAHL.Q06", d.ui));
+  frmQStoffWahl aeltere(alt, d.ui);
+  ASSERT_TRUE(aeltere.Form_Load());
+  EXPECT_EQ(aeltere.lblCAS.substr(0, 10), "CAS-RN:   "); // the older kind has no structure line
+  EXPECT_EQ(aeltere.lblStruktur, "");
+}
+
+TEST(frmQStoffWahl, NumberFieldSelectsBySystemNumber) {
+  Dialog d;
+  const int16_t ethanol = Position(d.s, "Ethanol");
+  const std::string nummer = std::to_string(d.s.Datenbank.MDBNummern[ethanol]);
+  EXPECT_FALSE(d.frm.Text1_Change(nummer));
+  EXPECT_EQ(d.frm.ListIndex, ethanol - 1);
+  EXPECT_EQ(d.frm.NameCombo, "Ethanol");
+  EXPECT_EQ(d.frm.Text1, nummer);
+
+  EXPECT_FALSE(d.frm.Text1_Change("9999")); // unknown: the selection stands
+  EXPECT_EQ(d.frm.ListIndex, ethanol - 1);
+  for (const std::string falsch : {"0", "x1"}) {
+    EXPECT_TRUE(d.frm.Text1_Change(falsch)) << falsch; // the beep
+    EXPECT_EQ(d.frm.Text1, "");
+  }
+  EXPECT_FALSE(d.frm.Text1_Change(""));
+}
+
+TEST(frmQStoffWahl, SecondEnterOnTheSameHitGoesOnToTheModels) {
+  Dialog d;
+  const int16_t ethanol = Position(d.s, "Ethanol");
+  d.frm.NameCombo = "Äthanol";
+  EXPECT_EQ(d.frm.NameCombo_KeyEnter(), StoffWahlAktion::Nichts);
+  EXPECT_EQ(d.frm.ListIndex, ethanol - 1); // the list shows the hit
+  EXPECT_EQ(d.frm.NameCombo, "Ethanol");
+  EXPECT_EQ(d.s.Datenbank.StoffIndex, 0);
+
+  EXPECT_EQ(d.frm.NameCombo_KeyEnter(), StoffWahlAktion::ModellFenster);
+  EXPECT_EQ(d.s.Datenbank.StoffIndex, ethanol);
+  EXPECT_EQ(d.s.Stoff.StoffName, "Ethanol");
+  EXPECT_EQ(d.s.Projekt.StatusLeiste[2], "Ethanol");
+  EXPECT_EQ(d.s.Projekt.Ampel.DatenAmpel, 1);
+  EXPECT_TRUE(d.s.Projekt.Freigaben.Stoff && d.s.Projekt.Freigaben.KritischerPunkt);
+  EXPECT_EQ(d.frm.NameComboListe, (std::vector<std::string>{"Äthanol", "Ethanol"}));
+  EXPECT_TRUE(d.ui.protokoll.empty());
+}
+
+TEST(frmQStoffWahl, FailedSearchShowsTheCurrentEntryAgainAndLoadsNothing) {
+  Dialog d;
+  d.frm.List1_Click(4);
+  d.frm.NameCombo = "Metha";
+  EXPECT_EQ(d.frm.NameCombo_KeyEnter(), StoffWahlAktion::Nichts);
+  EXPECT_EQ(d.ui.Letzte().text, "Unter dieser Bezeichnung nichts gefunden.");
+  EXPECT_EQ(d.frm.NameCombo, NameOhneZusatz(d.s.Datenbank.NamenListe[5]));
+  EXPECT_EQ(d.frm.Text1, std::to_string(d.s.Datenbank.MDBNummern[5]));
+  d.frm.NameCombo = "Metha";
+  EXPECT_EQ(d.frm.StoffOK_Click(), StoffWahlAktion::Nichts);
+  EXPECT_EQ(d.s.Datenbank.StoffIndex, 0);
+  EXPECT_EQ(d.s.Stoff.StoffName, "");
+  EXPECT_EQ(d.frm.NameComboListe, (std::vector<std::string>{"Metha"})); // remembered once
+}
+
+TEST(frmQStoffWahl, OKAsksAboutMeasuredDataAndComputesCorrelatedSets) {
+  Dialog d;
+  d.s.Mess.ExpAnzahl = 2;
+  d.s.Mess.ExpDaten.resize(3);
+  d.s.Mess.BatchDateiPfad = "alt.BAQ";
+  d.s.Mess.BatchKommentar = "alt";
+  d.s.Projekt.Freigaben.ExpDaten = true;
+  d.s.Modell.DampfdruckIndex = 6;
+  d.ui.antworten = {ui::Antwort::Nein, ui::Antwort::Ja};
+
+  EXPECT_EQ(d.frm.StoffOK_Click(), StoffWahlAktion::ModellFenster);
+  EXPECT_EQ(d.ui.Letzte().art, "Frage");
+  EXPECT_EQ(d.ui.Letzte().text, "Geladene exper. Daten jetzt löschen?");
+  EXPECT_EQ(d.ui.Letzte().titel, "exper. Daten");
+  EXPECT_EQ(d.s.Mess.ExpAnzahl, 2); // "Nein" keeps them
+  EXPECT_EQ(d.s.Stoff.StoffName, "Methan");
+  EXPECT_NE(d.s.Stoff.KFW[1], 0.0f); // Frost/Kalkwarf (van der Waals) from Tc, pc and Tb
+
+  d.frm.List1_Click(1);
+  EXPECT_EQ(d.frm.List1_KeyEnter(), StoffWahlAktion::ModellFenster);
+  EXPECT_EQ(d.s.Mess.ExpAnzahl, 0);
+  EXPECT_EQ(d.s.Mess.ExpDaten.size(), 1u);
+  EXPECT_EQ(d.s.Mess.BatchDateiPfad, "");
+  EXPECT_EQ(d.s.Mess.BatchKommentar, "");
+  EXPECT_FALSE(d.s.Projekt.Freigaben.ExpDaten);
+  EXPECT_EQ(d.s.Stoff.StoffName, "Ethan");
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,183 @@
+// The name search behind the substance choice: the keys with the spelling table, the "OXYD" rule and
+// the short forms; the synonym file in both encodings with its "END" line; the synonym block of a CAS
+// number and the messages for a missing file.
+#include "core/text_kodierung.h"
+#include "substance/rohdatei.h"
+#include "substance/synonyme.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+using test::TempVerzeichnis;
+
+// Three blocks, the "END" line, and one block behind it that must never be read.
+const std::string SynonymText = "74-82-8\r\n"
+                                "CH4_Methane_Methan\r\n"
+                                "METHANE\r\n"
+                                "METHAN\r\n"
+                                "SUMPF-GAS\r\n"
+                                "\r\n"
+                                "64-19-7\r\n"
+                                "C2H4O2_Acetic acid_Essigsäure\r\n"
+                                "ACETICACID\r\n"
+                                "ESSIGSÄURE\r\n"
+                                "\r\n"
+                                "78-93-3\r\n"
+                                "C4H8O_Methyl ethyl ketone_\r\n"
+                                "METHYLETHYLKETON\r\n"
+                                "\r\n"
+                                "END\r\n"
+                                "1-1-1\r\n"
+                                "X_Hinten_Hinten\r\n"
+                                "HINTERDEMENDE\r\n"
+                                "\r\n";
+
+struct Suche {
+  TempVerzeichnis dir;
+  ProjectState s;
+  ui::SkriptOberflaeche ui;
+  explicit Suche(const std::string& bytes, const std::string& name = "SYNOM7.TXT") {
+    s.Datenbank.ProgrammVerzeichnis = dir.Pfad();
+    if (!bytes.empty()) dir.Datei(name, bytes);
+  }
+  // CAS line of the hit, "END" for none.
+  std::string CAS(const std::string& text) {
+    std::string cas, line2;
+    bool missing = true;
+    NameNormieren(s, ui, text, cas, line2, missing);
+    EXPECT_FALSE(missing);
+    return cas;
+  }
+};
+
+TEST(NameNormieren, BringsEachGermanSpellingToTheCSpelling) {
+  const std::vector<std::pair<std::string, std::string>> faelle{{"Äthan", "ETHAN"},
+                                                                {"äthylenglykol", "ETHYLENGLYCOL"},
+                                                                {"Karbonat", "CARBONAT"},
+                                                                {"Sulphid", "SULFID"},
+                                                                {"Azeton", "ACETON"},
+                                                                {"sek-Butanol", "SECBUTANOL"},
+                                                                {"Zyklohexan", "CYCLOHEXAN"},
+                                                                {"Zyclohexan", "CYCLOHEXAN"},
+                                                                {"Cyklohexan", "CYCLOHEXAN"},
+                                                                {"n-Dekan", "NDECAN"},
+                                                                {"o-Kresol", "OCRESOL"},
+                                                                {"Essigsaeure", "ESSIGSÄURE"},
+                                                                {"essigsäure", "ESSIGSÄURE"},
+                                                                {"Me-Ethylketon", "METHYLETHYLKETON"},
+                                                                {"Et-Acetat", "ETHYLACETAT"},
+                                                                {"(R)-2-[Chlor].methan", "R2CHLORMETHAN"},
+                                                                {"Methyl propan", "METHYLPROPAN"}};
+  for (const auto& [eingabe, schluessel] : faelle)
+    EXPECT_EQ(NormalSchluessel(KlarSchluessel(eingabe)), schluessel) << eingabe;
+}
+
+TEST(NameNormieren, ReplacesOxydUnlessAnOxydiStandsInTheText) {
+  EXPECT_EQ(NormalSchluessel(KlarSchluessel("Kohlendioxyd")), "KOHLENDIOXID");
+  EXPECT_EQ(NormalSchluessel("OXYDOXYD"), "OXIDOXID");
+  // A hydroxy group before an "I" stops every replacement, also of the "OXYD" in front of it.
+  EXPECT_EQ(NormalSchluessel("OXYDHYDROXYDIETHYL"), "OXYDHYDROXYDIETHYL");
+  // Once the last "OXYD" is gone the loop ends; an "OXYDI" made by it cannot occur.
+  EXPECT_EQ(NormalSchluessel("DIOXYD"), "DIOXID");
+}
+
+TEST(NameNormieren, KeepsTheCasNumberInThePlainKey) {
+  EXPECT_EQ(KlarSchluessel(" 74-82-8 "), "74-82-8");
+  EXPECT_EQ(NormalSchluessel(KlarSchluessel("74-82-8")), "74828");
+  EXPECT_EQ(GrossSchreibung("ä ö ü é ß x÷"), "Ä Ö Ü É ß X÷");
+}
+
+TEST(NameNormieren, FindsBlocksBySynonymOrCasNumber) {
+  Suche suche(Utf8ZuWin1252(SynonymText)); // the file as older installations write it
+  std::string cas, line2;
+  bool missing = true;
+  NameNormieren(suche.s, suche.ui, "Essigsaeure", cas, line2, missing);
+  EXPECT_EQ(cas, "64-19-7");
+  EXPECT_EQ(line2, "C2H4O2_Acetic acid_Essigsäure");
+  EXPECT_FALSE(missing);
+  EXPECT_EQ(suche.CAS("74-82-8"), "74-82-8"); // the CAS line against the plain key
+  EXPECT_EQ(suche.CAS("Methane"), "74-82-8");
+  EXPECT_EQ(suche.CAS("Sumpfgas"), "74-82-8"); // hyphens of a synonym line don't count
+  EXPECT_EQ(suche.CAS("Me-Ethylketon"), "78-93-3");
+  // A synonym of another length is never a hit, neither as a prefix nor extended.
+  EXPECT_EQ(suche.CAS("Metha"), "END");
+  EXPECT_EQ(suche.CAS("Methanes"), "END");
+  EXPECT_EQ(suche.CAS("Hinterdemende"), "END"); // behind the "END" line
+  EXPECT_TRUE(suche.ui.protokoll.empty());
+
+  Suche utf8("\xEF\xBB\xBF" + SynonymText, "synom7.txt"); // UTF-8 with a byte order mark, small name
+  EXPECT_EQ(utf8.CAS("Essigsaeure"), "64-19-7");
+  Suche ohneEnd(SynonymText.substr(0, SynonymText.find("END")));
+  EXPECT_EQ(ohneEnd.CAS("Essigsaeure"), "64-19-7");
+  EXPECT_EQ(ohneEnd.CAS("Butan"), "END"); // the file's end counts as "END"
+}
+
+TEST(NameNormieren, ReportsAMissingFile) {
+  Suche suche("");
+  std::string cas, line2;
+  bool missing = false;
+  NameNormieren(suche.s, suche.ui, "Methan", cas, line2, missing);
+  EXPECT_TRUE(missing);
+  ASSERT_EQ(suche.ui.Meldungen().size(), 1u);
+  EXPECT_EQ(suche.ui.Letzte().text, "Datei 'SYNOM7.TXT' im QUOR-Verzeichnis nicht gefunden.\r\n"
+                                    "Wählen Sie den Stoff über die Liste.");
+  EXPECT_EQ(suche.ui.Letzte().titel, "FEHLER");
+  EXPECT_EQ(suche.ui.Letzte().symbol, ui::Symbol::Kritisch);
+}
+
+TEST(FindSynonymVonCAS, GivesTheBlockOfANumber) {
+  EXPECT_EQ(BeschreibungsTeile("CH4_Methane_Methan"), (std::vector<std::string>{"Methan", "CH4", "Methane"}));
+  EXPECT_EQ(BeschreibungsTeile("C4H8O_Methyl ethyl ketone_"),
+            (std::vector<std::string>{"Methyl ethyl ketone", "C4H8O"}));
+  EXPECT_EQ(BeschreibungsTeile("A_B_C_D"), (std::vector<std::string>{"C_D", "A", "B"}));
+
+  Suche suche(Utf8ZuWin1252(SynonymText));
+  std::string text;
+  std::vector<std::string> synonyme;
+  bool failed = true;
+  FindSynonymVonCAS(suche.s, suche.ui, "74-82-8   ", text, synonyme, failed);
+  EXPECT_FALSE(failed);
+  EXPECT_EQ(text, "CAS-RN: 74-82-8\r\nMethan\r\nCH4\r\nMethane");
+  EXPECT_EQ(synonyme, (std::vector<std::string>{"METHANE", "METHAN", "SUMPF-GAS"}));
+  const std::string& datum = suche.s.Projekt.SynonymDatum; // dd.mm.yyyy
+  ASSERT_EQ(datum.size(), 10u);
+  EXPECT_TRUE(datum[2] == '.' && datum[5] == '.');
+
+  const auto fenster = SynonymListe(suche.s, suche.ui, "64-19-7");
+  ASSERT_TRUE(fenster.has_value());
+  EXPECT_EQ(fenster->Caption, "  Synonym-Liste");
+  EXPECT_EQ(fenster->Zeilen(), (std::vector<std::string>{"CAS-RN: 64-19-7", "Essigsäure", "C2H4O2",
+                                                         "Acetic acid", "", "ACETICACID", "ESSIGSÄURE"}));
+  EXPECT_TRUE(suche.ui.protokoll.empty());
+}
+
+TEST(FindSynonymVonCAS, TellsWhatIsMissing) {
+  Suche suche(SynonymText);
+  std::string text;
+  std::vector<std::string> synonyme;
+  bool failed = false;
+  FindSynonymVonCAS(suche.s, suche.ui, "1-1-1", text, synonyme, failed); // only behind "END"
+  EXPECT_TRUE(failed);
+  EXPECT_EQ(suche.ui.Letzte().text, "CAS-RN fehlt noch in der Synonymdatei synom7.txt\r\n"
+                                    "ACHTUNG!\r\n"
+                                    "Damit ist dieser Stoff in der Datenbank über Stoffnamen-\r\n"
+                                    "Eingabe nicht auffindbar.");
+  EXPECT_EQ(suche.ui.Letzte().titel, "Ausführung nicht möglich");
+
+  for (const std::string cas : {"00-00-0", "  "}) {
+    EXPECT_FALSE(SynonymListe(suche.s, suche.ui, cas).has_value());
+    EXPECT_EQ(suche.ui.Letzte().text, "CAS-RN nicht angegeben bzw. inkorrekt");
+    EXPECT_EQ(suche.ui.Letzte().titel, "Warnung");
+  }
+
+  Suche ohneDatei("");
+  EXPECT_FALSE(SynonymListe(ohneDatei.s, ohneDatei.ui, "74-82-8").has_value());
+  EXPECT_EQ(ohneDatei.ui.Letzte().text, "Synonymdatei synom7.txt nicht gefunden,");
+  EXPECT_EQ(ohneDatei.ui.Meldungen().size(), 1u);
+}
+
+} // namespace
+} // namespace quor
