@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QStandardPaths>
+#include <QStringList>
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
@@ -20,11 +21,16 @@ int main(int argc, char* argv[]) {
       quor::ProgrammVerzeichnisEinrichten(QApplication::applicationDirPath().toStdString(), benutzer);
   QDir::setCurrent(QString::fromStdString(programmVerzeichnis));
 
-  quor::ProjectState state;
-  quor::InitProjectState(state);
   quor::ui::QtOberflaeche oberflaeche(nullptr, programmVerzeichnis + "/help");
+  quor::ProjectState state;
+  state.Datenbank.ProgrammVerzeichnis = programmVerzeichnis;
   quor::ui::mdiQUOR fenster(state, oberflaeche);
   oberflaeche.SetzeEltern(&fenster);
+
+  // The command line as one text: a path with blanks may come in several pieces.
+  QStringList argumente = QApplication::arguments();
+  argumente.removeFirst();
+  fenster.Starten(argumente.join(' ').toStdString());
   fenster.show();
   return QApplication::exec();
 }

@@ -48,7 +48,7 @@ struct ProzessAuftrag {
   std::vector<std::string> argumente;
   std::string arbeitsVerzeichnis;
   bool versteckt = true;
-  int wartenMs = 100000;
+  int wartenMs = 100000; // below 0: started beside the program, not awaited
 };
 
 enum class ProzessErgebnis { Beendet, ZeitUeberschritten, NichtGestartet };

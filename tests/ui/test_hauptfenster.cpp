@@ -1,9 +1,9 @@
 #include "core/project_state.h"
+#include "gui_hilfe.h"
 #include "ui/qt/mdi_quor.h"
 #include "ui/qt/qt_drucker.h"
 #include "ui/skript_oberflaeche.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QMdiArea>
 #include <QTemporaryDir>
@@ -12,13 +12,7 @@
 namespace quor::ui {
 namespace {
 
-QApplication& App() {
-  static int argc = 1;
-  static char name[] = "test_ui";
-  static char* argv[] = {name, nullptr};
-  static QApplication app(argc, argv);
-  return app;
-}
+using test::App;
 
 TEST(Hauptfenster, CarriesTheProgramTitleAndAnMdiArea) {
   App();

@@ -1,17 +1,27 @@
-// The main frame: menus, toolbar, status bar and the area that holds the child windows.
+// The main frame: menus, toolbar, status bar, the Daten-Ampel and the area that holds the child
+// windows. The menu tree comes from its table; every command goes to the frame logic, and after each
+// one the frame shows the project state anew (enabled entries, status bar panels, Ampel colour).
 #pragma once
 
+#include "core/rahmen.h"
+
 #include <QMainWindow>
+#include <QMap>
 
+#include <memory>
+#include <vector>
+
+class QLabel;
 class QMdiArea;
-
-namespace quor {
-struct ProjectState;
-}
+class QMdiSubWindow;
+class QMenu;
+class QToolButton;
 
 namespace quor::ui {
 
 class Oberflaeche;
+class ModellFenster;
+class StoffWahlFenster;
 
 extern const char* const HauptfensterTitel;
 
@@ -20,13 +30,52 @@ class mdiQUOR : public QMainWindow {
 
 public:
   mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern = nullptr);
+  ~mdiQUOR() override;
+
+  // The frame logic's start with the command line; then the frame shows what it allows.
+  void Starten(const std::string& kommandozeile);
 
   QMdiArea* Arbeitsflaeche() const { return mdi_; }
+  RahmenLogik& Logik() { return *logik_; }
+  // A menu entry (or a submenu's entry) by control name and array index; null if there is none.
+  QAction* Befehl(const QString& name, int index = -1) const;
+  QMenu* Menue(const QString& name, int index = -1) const;
+  // Toolbar button 0 to 32 (separators included), null outside.
+  QAction* Knopf(int index) const;
+  QString StatusText(int panel) const;
+  QToolButton* Ampel() const { return ampel_; }
+  StoffWahlFenster* StoffWahl() const { return stoffWahl_; }
+  ModellFenster* Modelle() const { return modell_; }
+
+  // Enabled entries and buttons, status bar panels and Ampel from the project state.
+  void Aktualisieren();
+  void StoffWahlZeigen();
+  // Builds the model window for the loaded substance (the first time or on `neuAufbauen`) and shows it.
+  void ModellFensterZeigen(bool neuAufbauen);
+
+protected:
+  void closeEvent(QCloseEvent* ereignis) override;
 
 private:
+  RahmenDienste Dienste();
+  void BaueMenues();
+  void BaueToolbar();
+  void BaueStatusleiste();
+  void BefehlAusloesen(const QString& name, int index);
+  void AmpelZeigen();
+
   ProjectState& state_;
   Oberflaeche& ui_;
+  std::unique_ptr<RahmenLogik> logik_;
   QMdiArea* mdi_;
+  QMap<QString, QAction*> befehle_; // key "name(index)": entries, separators and submenu entries
+  QMap<QString, QMenu*> menues_;
+  std::vector<QAction*> knoepfe_;
+  std::vector<QLabel*> panels_;
+  QToolButton* ampel_ = nullptr;
+  StoffWahlFenster* stoffWahl_ = nullptr;
+  ModellFenster* modell_ = nullptr;
+  QMdiSubWindow* modellFenster_ = nullptr;
 };
 
 } // namespace quor::ui

@@ -1,18 +1,17 @@
 #include "ui/qt/qt_oberflaeche.h"
 
 #include "ui/datei_filter.h"
+#include "ui/qt/hilfe_fenster.h"
 #include "ui/qt/qt_drucker.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QProcess>
-#include <QUrl>
 
 namespace quor::ui {
 
@@ -95,7 +94,9 @@ QtOberflaeche::QtOberflaeche(QWidget* eltern, std::string hilfeVerzeichnis)
     : eltern_(eltern), hilfeVerzeichnis_(std::move(hilfeVerzeichnis)),
       drucker_(std::make_unique<QtDrucker>(eltern)) {}
 
-QtOberflaeche::~QtOberflaeche() = default;
+QtOberflaeche::~QtOberflaeche() {
+  if (hilfe_ && !hilfe_->parent()) delete hilfe_;
+}
 
 void QtOberflaeche::Meldung(const std::string& text, const std::string& titel, Symbol symbol) {
   QMessageBox box(Icon(symbol), Q(titel), Zeilen(text), QMessageBox::Ok, eltern_);
@@ -154,6 +155,11 @@ ProzessStatus QtOberflaeche::StarteProzess(const ProzessAuftrag& auftrag) {
   QStringList argumente;
   for (const auto& a : auftrag.argumente)
     argumente << Q(a);
+  if (auftrag.wartenMs < 0) {
+    const bool gestartet =
+        QProcess::startDetached(Q(auftrag.programm), argumente, Q(auftrag.arbeitsVerzeichnis));
+    return {gestartet ? ProzessErgebnis::Beendet : ProzessErgebnis::NichtGestartet, 0};
+  }
   if (!auftrag.arbeitsVerzeichnis.empty()) prozess.setWorkingDirectory(Q(auftrag.arbeitsVerzeichnis));
   // A hidden child has no console of its own; its output is dropped.
   if (auftrag.versteckt) prozess.setStandardOutputFile(QProcess::nullDevice());
@@ -168,13 +174,28 @@ ProzessStatus QtOberflaeche::StarteProzess(const ProzessAuftrag& auftrag) {
 }
 
 void QtOberflaeche::Hilfe(int thema) {
-  const QString seite = Q(hilfeVerzeichnis_) + "/" + QString::number(thema) + ".html";
-  if (!QFileInfo::exists(seite)) {
+  const QString verzeichnis = Q(hilfeVerzeichnis_);
+  if (!QFileInfo::exists(verzeichnis + "/" + HilfeFenster::SeitenName(thema))) {
     Meldung("Zu diesem Thema (Nr. " + std::to_string(thema) + ") ist keine Hilfeseite vorhanden.", "Hinweis",
             Symbol::Information);
     return;
   }
-  QDesktopServices::openUrl(QUrl::fromLocalFile(seite));
+  // Beside a modal dialog the help is a modal window of that dialog, or it couldn't be used.
+  if (QWidget* modal = QApplication::activeModalWidget()) {
+    HilfeFenster fenster(verzeichnis, modal);
+    fenster.ZeigeThema(thema);
+    fenster.exec();
+    return;
+  }
+  if (!hilfe_) hilfe_ = new HilfeFenster(verzeichnis, eltern_);
+  hilfe_->ZeigeThema(thema);
+  hilfe_->show();
+  hilfe_->raise();
+  hilfe_->activateWindow();
+}
+
+HilfeFenster* QtOberflaeche::Hilfefenster() const {
+  return hilfe_;
 }
 
 } // namespace quor::ui

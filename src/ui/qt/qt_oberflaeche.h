@@ -3,6 +3,8 @@
 
 #include "ui/oberflaeche.h"
 
+#include <QPointer>
+
 #include <memory>
 
 class QWidget;
@@ -10,6 +12,7 @@ class QWidget;
 namespace quor::ui {
 
 class QtDrucker;
+class HilfeFenster;
 
 class QtOberflaeche : public Oberflaeche {
 public:
@@ -30,12 +33,16 @@ public:
   std::string ZwischenablageText() override;
   Drucker& Druck() override;
   ProzessStatus StarteProzess(const ProzessAuftrag& auftrag) override;
+  // Opens the help window of the program on the topic's page (topic 0: the contents).
   void Hilfe(int thema) override;
+  // The help window once it was opened, else null.
+  HilfeFenster* Hilfefenster() const;
 
 private:
   QWidget* eltern_;
   std::string hilfeVerzeichnis_;
   std::unique_ptr<QtDrucker> drucker_;
+  QPointer<HilfeFenster> hilfe_; // owned by its parent window, or by this without one
 };
 
 } // namespace quor::ui

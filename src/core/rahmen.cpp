@@ -1,0 +1,246 @@
+#include "core/rahmen.h"
+
+#include "core/datei_io.h"
+#include "core/daten_diagnose.h"
+#include "core/festtext.h"
+#include "core/projekt_status.h"
+#include "ui/oberflaeche.h"
+
+#include <filesystem>
+
+namespace quor {
+
+const char* const LetzteSitzungDatei = "QuorLastSession.QC6";
+const char* const ArbeitsverzeichnisTitel = "aktuelles Arbeitsverzeichnis von QUOR";
+const char* const SpeicherHinweis = "Tipp:\r\n"
+                                    "Überprüfen Sie vor dem Abspeichern des Projekts\r\n"
+                                    "die Einstellungen unter \"Modelle\" und \"Optionen\".";
+const char* const SpeicherHinweisTitel = "einmaliger allgemeiner Hinweis";
+
+namespace {
+
+constexpr const char* NichtMoeglich = "Ausführung nicht möglich";
+
+std::string ImVerzeichnis(const std::string& verzeichnis, const std::string& name) {
+  if (verzeichnis.empty()) return name;
+  return verzeichnis.back() == '/' ? verzeichnis + name : verzeichnis + "/" + name;
+}
+
+// A file that exists and holds nothing.
+bool LeereDatei(const std::string& pfad) {
+  std::error_code fehler;
+  return std::filesystem::is_regular_file(pfad, fehler) && std::filesystem::file_size(pfad, fehler) == 0 &&
+         !fehler;
+}
+
+} // namespace
+
+std::string KommandozeileBereinigen(std::string zeile) {
+  for (std::size_t p = zeile.find('"'); p != std::string::npos; p = zeile.find('"'))
+    zeile.erase(p, 1);
+  return Trim(zeile);
+}
+
+RahmenLogik::RahmenLogik(ProjectState& s, ui::Oberflaeche& ui, RahmenDienste dienste)
+    : s_(s), ui_(ui), d_(std::move(dienste)) {}
+
+void RahmenLogik::Start(const std::string& kommandozeile) {
+  ProjektGruppe& p = s_.Projekt;
+  for (std::size_t i = 1; i < p.StatusLeiste.size(); ++i)
+    p.StatusLeiste[i].clear();
+  // The decimal mark, the name tables and the defaults of the project state.
+  InitProjectState(s_, d_.EOSSetup);
+  std::string& verzeichnis = s_.Datenbank.ProgrammVerzeichnis;
+  if (verzeichnis.empty()) {
+    std::error_code fehler;
+    verzeichnis = std::filesystem::current_path(fehler).u8string();
+  }
+  HilfeVerzeichnis = ImVerzeichnis(verzeichnis, "help");
+  s_.Mess.FitSpalte = 1;
+  p.ProjektDatei.clear();
+
+  ProjektFilter = "QUOR-Projektdatei (*.QC6)|*.QC6";
+  BatchFilter = "exper. Daten (*.BAQ)|*.BAQ";
+  p.TempDatei = ImVerzeichnis(verzeichnis, "QuorTemp.tmp");
+
+  KommandoProjekt = KommandozeileBereinigen(kommandozeile);
+  if (!KommandoProjekt.empty()) {
+    p.ProjektGeladenUeberKommando = true;
+    if (d_.ProjektLaden && d_.ProjektLaden(s_, KommandoProjekt) && d_.ModellFensterZeigen)
+      d_.ModellFensterZeigen();
+  }
+  Gestartet = true;
+}
+
+bool RahmenLogik::Beenden() {
+  if (beendet_) return false;
+  beendet_ = true;
+  if (d_.ProtokollSchliessen) d_.ProtokollSchliessen();
+  const std::string& temp = s_.Projekt.TempDatei;
+  if (!temp.empty() && LeereDatei(temp)) {
+    std::error_code fehler;
+    std::filesystem::remove(temp, fehler);
+  }
+  const DatenbankGruppe& db = s_.Datenbank;
+  const std::string& bank = db.DatenbankTyp == 6 ? db.PfadQ06 : db.PfadQ07;
+  LetzteSitzungFaellig = !bank.empty();
+  if (LetzteSitzungFaellig && d_.ProjektSchreiben) d_.ProjektSchreiben(s_, LetzteSitzungDatei);
+  return true;
+}
+
+bool RahmenLogik::Ausfuehren(const std::string& name, int index) {
+  if (!Freigegeben(name, index)) return false;
+  if (name == "mnuData_OpenBank") {
+    mnuData_OpenBank_Click(index);
+  } else if (name == "mnuData_NewProject") {
+    mnuData_NewProject_Click();
+  } else if (name == "mnuProjectStatus") {
+    mnuProjectStatus_Click();
+  } else if (name == "mnuData_SaveProject") {
+    mnuData_SaveProject_Click();
+  } else if (name == "mnuData_BatchInput") {
+    mnuData_BatchInput_Click();
+  } else if (name == "mnuShowApp_path") {
+    mnuShowApp_path_Click();
+  } else if (name == "mnuData_ParameterEOS") {
+    mnuData_ParameterEOS_Click();
+  } else if (name == "mnuTavik1W") {
+    mnuTavik1W_Click();
+  } else if (name == "mnuStoffwahl") {
+    mnuStoffwahl_Click();
+  } else if (name == "mnuModel") {
+    mnuModel_Click();
+  } else if (name == ToolbarName) {
+    Toolbar1_ButtonClick(index);
+  } else if (name == "mnuData_Exit") {
+    Beenden();
+  } else if (name == "mnuHilfe_Inhalt") {
+    ui_.Hilfe(HilfeInhalt);
+  } else if (name == "mnuHilfe_Erstnutzer") {
+    ui_.Hilfe(HilfeErstnutzer);
+  } else if (name == "mnuHilfe_RechenUebung") {
+    ui_.Hilfe(HilfeRechenUebung);
+  } else if (name == "mnuHilfe_Tipps") {
+    ui_.Hilfe(HilfeTipps);
+  } else if (name == "mnuHilfeHinweis") {
+    mnuHilfeHinweis_Click();
+  } else if (name == "mnuHilfe_About") {
+    mnuHilfe_About_Click();
+  } else if (name.rfind("mnuGraf", 0) == 0) {
+    return GrafErlaubt(name, index);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void RahmenLogik::mnuData_OpenBank_Click(int index) {
+  if (index != 0 && index != 2) return; // index 1 is the separator
+  const int typ = 7 - index / 2;
+  if (!d_.DatenbankWaehlen || !d_.DatenbankWaehlen(s_, typ)) return;
+  // A new database: nothing of the former substance is offered any more.
+  ProjektGruppe& p = s_.Projekt;
+  p.LetzteSitzung = false;
+  MenueFreigaben& f = p.Freigaben;
+  f.Stoff = f.KritischerPunkt = f.Modell = f.Diagramme = f.Saettigung = false;
+  for (std::size_t i = 2; i < p.StatusLeiste.size(); ++i)
+    p.StatusLeiste[i].clear();
+  p.Ampel = DatenLage{};
+  s_.Datenbank.StoffIndex = 0;
+  if (d_.StoffWahlZeigen) d_.StoffWahlZeigen();
+}
+
+void RahmenLogik::mnuProjectStatus_Click() {
+  const std::string text = ProjektStatusText(s_);
+  if (d_.TextFensterZeigen)
+    d_.TextFensterZeigen(ProjektStatusTitel, text);
+  else
+    ui_.Meldung(text, ProjektStatusTitel, ui::Symbol::Information);
+}
+
+void RahmenLogik::mnuData_SaveProject_Click() {
+  bool& einmal = s_.Projekt.EinmalHinweis;
+  if (!einmal) {
+    ui_.Meldung(SpeicherHinweis, SpeicherHinweisTitel, ui::Symbol::Information);
+    einmal = true;
+  }
+  if (d_.ProjektSpeichernUnter) d_.ProjektSpeichernUnter(s_);
+}
+
+bool RahmenLogik::mnuData_BatchInput_Click() {
+  if (!s_.Projekt.Freigaben.Stoff) {
+    ui_.Meldung("Erst Stoff wählen oder Projekt laden;\r\n"
+                "erst danach können Sie exper. Daten sichten oder laden.",
+                "freundlicher Hinweis", ui::Symbol::Information);
+    return false;
+  }
+  if (s_.Mess.ExpAnzahl > 0 &&
+      ui_.Frage("Es wird Daten-Neueingabe erwartet;\r\n"
+                "der vorhandene Datensatz wird gelöscht.\r\n"
+                "Möchten Sie das?",
+                "Warnung", ui::Knoepfe::JaNein, ui::Antwort::Nein) != ui::Antwort::Ja)
+    return false;
+  if (d_.BatchEingabeOeffnen) d_.BatchEingabeOeffnen();
+  return true;
+}
+
+void RahmenLogik::mnuShowApp_path_Click() {
+  ui_.Meldung(s_.Datenbank.ProgrammVerzeichnis, ArbeitsverzeichnisTitel, ui::Symbol::Information);
+}
+
+void RahmenLogik::mnuData_ParameterEOS_Click() {
+  if (d_.ParameterEOSText)
+    ui_.Meldung(d_.ParameterEOSText(s_), d_.ParameterEOSTitel, ui::Symbol::Information);
+}
+
+void RahmenLogik::mnuTavik1W_Click() {
+  const std::string name = s_.Datenbank.EnglischeOberflaeche ? "Tavik1W_E" : "Tavik1W";
+  const std::string& verzeichnis = s_.Datenbank.ProgrammVerzeichnis;
+  const std::string programm = ImVerzeichnis(verzeichnis, name);
+  if (!DateiExistiert(programm)) {
+    ui_.Meldung("Datei " + name + ".EXE nicht im QUOR-Verzeichnis gefunden", NichtMoeglich,
+                ui::Symbol::Ausruf);
+    return;
+  }
+  ui::ProzessAuftrag auftrag;
+  auftrag.programm = programm;
+  auftrag.arbeitsVerzeichnis = verzeichnis;
+  auftrag.versteckt = false;
+  auftrag.wartenMs = -1; // the converter runs beside the program
+  if (ui_.StarteProzess(auftrag).ergebnis == ui::ProzessErgebnis::NichtGestartet)
+    ui_.Meldung("Datei " + name + ".EXE konnte nicht gestartet werden", NichtMoeglich, ui::Symbol::Ausruf);
+}
+
+void RahmenLogik::mnuStoffwahl_Click() {
+  if (d_.StoffWahlZeigen) d_.StoffWahlZeigen();
+}
+
+void RahmenLogik::mnuModel_Click() {
+  if (d_.ModellFensterZeigen) d_.ModellFensterZeigen();
+}
+
+void RahmenLogik::Toolbar1_ButtonClick(int index) {
+  switch (index) {
+  case 2:
+    mnuData_NewProject_Click();
+    break;
+  case 8:
+    mnuData_SaveProject_Click();
+    break;
+  case 20:
+    mnuData_BatchInput_Click();
+    break;
+  case 32:
+    mnuProjectStatus_Click();
+    break;
+  default:
+    break; // the other buttons' commands are not part of this build
+  }
+}
+
+void RahmenLogik::txtAmpel_Click() {
+  if (s_.Projekt.Ampel.DatenAmpel == 0) return; // nothing judged yet
+  cmdDatenDiagnose(s_, ui_);
+}
+
+} // namespace quor

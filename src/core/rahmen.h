@@ -1,0 +1,118 @@
+// Command logic of the main frame mdiQUOR: the start of the program, the commands of the menus and
+// the toolbar with their preconditions and messages, and the end of the session. The view builds
+// the menus and forwards every command here; what lies in outer layers (the database dialog, the
+// EOS report, the windows to show) comes in as services.
+#pragma once
+
+#include "core/project_state.h"
+#include "core/rahmen_freigaben.h"
+
+#include <functional>
+#include <string>
+
+namespace quor {
+
+namespace ui {
+class Oberflaeche;
+}
+
+extern const char* const LetzteSitzungDatei; // "QuorLastSession.QC6"
+extern const char* const ArbeitsverzeichnisTitel;
+extern const char* const SpeicherHinweis; // the once-only hint before saving a project
+extern const char* const SpeicherHinweisTitel;
+extern const char* const HilfeHinweisText;
+extern const char* const ProgrammInfoText;
+
+// Help topics of the help pages.
+enum HilfeThema : int {
+  HilfeInhalt = 0,
+  HilfeErstnutzer = 11223,
+  HilfeTipps = 11124,
+  HilfeRechenUebung = 45333
+};
+
+// What the frame asks of the outer layers and of its view. A service left empty is a function that
+// isn't there yet: its command does nothing further.
+struct RahmenDienste {
+  EOSSetupFunktion EOSSetup;                                    // for the defaults of the start
+  std::function<bool(ProjectState&, int typ)> DatenbankWaehlen; // file dialog and opening; true on success
+  std::function<std::string(ProjectState&)> ParameterEOSText;
+  std::string ParameterEOSTitel;
+  std::function<void()> StoffWahlZeigen;
+  std::function<void()> ModellFensterZeigen;
+  std::function<void(const std::string& titel, const std::string& text)> TextFensterZeigen;
+  std::function<bool(ProjectState&, const std::string& pfad)> ProjektLaden;
+  std::function<void(ProjectState&, const std::string& pfad)> ProjektSchreiben;
+  std::function<void(ProjectState&)> ProjektSpeichernUnter;
+  std::function<void()> ProtokollSchliessen; // the record log of the results
+  std::function<void()> BatchEingabeOeffnen; // the editor of measured data, for new input
+};
+
+// The command line without any double quote, taken out one at a time, and without blanks at its ends.
+std::string KommandozeileBereinigen(std::string zeile);
+
+// True for a cubic equation of state (rows 2 to 8 of the EOS table).
+bool IstKubischesModell(const ProjectState& s);
+
+class RahmenLogik {
+public:
+  RahmenLogik(ProjectState& s, ui::Oberflaeche& ui, RahmenDienste dienste = {});
+
+  // The start: status bar empty, tables and defaults, the program's directory and help, filters and
+  // the temporary file's name, then the command line. Without a project on it no database is opened.
+  void Start(const std::string& kommandozeile);
+
+  // The end of the session (mnuData_Exit and the frame's closing): record log, temporary file, last
+  // session when a database is open. Runs once; true when it ran now.
+  bool Beenden();
+
+  // Runs the command of a menu entry or toolbar button; false when it isn't enabled or not known.
+  bool Ausfuehren(const std::string& name, int index = -1);
+
+  void mnuData_OpenBank_Click(int index);
+  void mnuData_NewProject_Click() { mnuData_OpenBank_Click(0); }
+  void mnuProjectStatus_Click();
+  void mnuData_SaveProject_Click();
+  // False when the editor must not open: no substance, or "Nein" to clearing the held points.
+  bool mnuData_BatchInput_Click();
+  void mnuShowApp_path_Click();
+  void mnuData_ParameterEOS_Click();
+  void mnuTavik1W_Click();
+  void mnuStoffwahl_Click();
+  void mnuModel_Click();
+  void Toolbar1_ButtonClick(int index);
+  // The Daten-Ampel field: the report of the substance's data.
+  void txtAmpel_Click();
+  void mnuHilfeHinweis_Click();
+  void mnuHilfe_About_Click();
+
+  // The diagram entries' own tests before a diagram opens; false (after the message) when refused.
+  bool GrafErlaubt(const std::string& name, int index);
+  // The 3D surfaces of pressure and temperature with a cubic model: real behaviour or S-shaped
+  // loops below the critical point. Other models and surfaces always draw the real behaviour.
+  bool Reales3D(int art);
+
+  // Text of the entry for the virial coefficients, by the chosen model.
+  std::string VirialEintragText() const;
+
+  RahmenZustand Zustand() const { return ZustandVon(s_); }
+  bool Freigegeben(const std::string& name, int index = -1) const {
+    return quor::Freigegeben(s_, Befehle, name, index);
+  }
+
+  BefehlsSatz Befehle;
+  std::string HilfeVerzeichnis;
+  std::string ProjektFilter;
+  std::string BatchFilter;
+  std::string KommandoProjekt; // the project file named on the command line
+  bool Gestartet = false;
+  bool LetzteSitzungFaellig = false; // the end found a database: the last session is due
+
+private:
+  ProjectState& s_;
+  ui::Oberflaeche& ui_;
+  RahmenDienste d_;
+  bool beendet_ = false;
+};
+
+} // namespace quor
