@@ -1,24 +1,13 @@
-// quor-cli: the calculations of QUOR-6 without a window.
-#include <cstring>
+// quor-cli: the calculations of QUOR-6 without a window (see quor-cli --help).
+#include "cli/befehle.h"
+
 #include <iostream>
-
-namespace {
-
-const char* const Hilfe = "Usage: quor-cli [global options] COMMAND [options]\n"
-                          "\n"
-                          "QUOR-6 thermodynamic state calculations on pure substances, without a window.\n"
-                          "No commands are available in this version yet.\n"
-                          "\n"
-                          "Options:\n"
-                          "  --help     show this text\n";
-
-} // namespace
+#include <string>
+#include <vector>
 
 int main(int argc, char* argv[]) {
-  if (argc < 2 || std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0) {
-    std::cout << Hilfe;
-    return argc < 2 ? 1 : 0;
-  }
-  std::cerr << "quor-cli: unknown command '" << argv[1] << "' (see quor-cli --help)\n";
-  return 2;
+  std::vector<std::string> argumente(argv + 1, argv + argc);
+  const int code = quor::cli::Ausfuehren(argumente, std::cout, std::cerr);
+  std::cout.flush();
+  return code;
 }

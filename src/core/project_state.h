@@ -10,7 +10,9 @@
 
 #include "core/datenbank_gruppe.h"
 #include "core/messdaten_gruppe.h"
+#include "core/optionen_zusatz.h"
 #include "core/projekt_gruppe.h"
+#include "core/rechnung_gruppe.h"
 #include "core/substance_record.h"
 
 namespace quor {
@@ -149,6 +151,8 @@ struct ProjectState {
   MessdatenGruppe Mess;
   int16_t RechenArt = 0; // kind of the state calculation on show
   ProjektGruppe Projekt;
+  RechnungGruppe Rechnung; // set-up of the state calculation
+  OptionenZusatz Zusatz;   // diagram mode, process-line start values
 };
 
 // The parameter set-up of the equation of state lives in the engine, which sits above this layer;

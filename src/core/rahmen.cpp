@@ -66,8 +66,7 @@ void RahmenLogik::Start(const std::string& kommandozeile) {
   KommandoProjekt = KommandozeileBereinigen(kommandozeile);
   if (!KommandoProjekt.empty()) {
     p.ProjektGeladenUeberKommando = true;
-    if (d_.ProjektLaden && d_.ProjektLaden(s_, KommandoProjekt) && d_.ModellFensterZeigen)
-      d_.ModellFensterZeigen();
+    ProjektOeffnen(KommandoProjekt, ProjektWeg::Kommandozeile);
   }
   Gestartet = true;
 }
@@ -126,6 +125,15 @@ bool RahmenLogik::Ausfuehren(const std::string& name, int index) {
     mnuHilfeHinweis_Click();
   } else if (name == "mnuHilfe_About") {
     mnuHilfe_About_Click();
+  } else if (name == "mnuData_LoadProject") {
+    mnuData_LoadProject_Click();
+  } else if (name == "mnuData_LoadLastSession") {
+    mnuData_LoadLastSession_Click();
+  } else if (name == "mnuOptions") {
+    mnuOptions_Click();
+  } else if (name.rfind("mnuCalc", 0) == 0) {
+    if (!d_.Rechnung) return false;
+    d_.Rechnung(name, index);
   } else if (name.rfind("mnuGraf", 0) == 0) {
     return GrafErlaubt(name, index);
   } else {
@@ -224,8 +232,20 @@ void RahmenLogik::Toolbar1_ButtonClick(int index) {
   case 2:
     mnuData_NewProject_Click();
     break;
+  case 4:
+    mnuData_LoadLastSession_Click();
+    break;
+  case 6:
+    mnuData_LoadProject_Click();
+    break;
   case 8:
     mnuData_SaveProject_Click();
+    break;
+  case 11:
+    if (d_.ReferenzZeigen) d_.ReferenzZeigen();
+    break;
+  case 15: // the vessel by the project's concept
+    if (d_.Rechnung) d_.Rechnung("mnuCalc", s_.Modell.KonzeptGlobal ? 15 : 16);
     break;
   case 20:
     mnuData_BatchInput_Click();

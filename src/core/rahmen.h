@@ -41,11 +41,21 @@ struct RahmenDienste {
   std::function<void()> StoffWahlZeigen;
   std::function<void()> ModellFensterZeigen;
   std::function<void(const std::string& titel, const std::string& text)> TextFensterZeigen;
-  std::function<bool(ProjectState&, const std::string& pfad)> ProjektLaden;
+  // Loads a project; true on success, with the measured-data file it names (may be empty).
+  std::function<bool(ProjectState&, const std::string& pfad, std::string& batchDatei)> ProjektLaden;
   std::function<void(ProjectState&, const std::string& pfad)> ProjektSchreiben;
   std::function<void(ProjectState&)> ProjektSpeichernUnter;
   std::function<void()> ProtokollSchliessen; // the record log of the results
   std::function<void()> BatchEingabeOeffnen; // the editor of measured data, for new input
+  // The open dialog with preview (title, pattern); the chosen path, empty when cancelled.
+  std::function<std::string(ProjectState&, const std::string& titel, const std::string& muster)>
+      ProjektDialog;
+  std::function<bool(ProjectState&, const std::string& pfad)> BatchDateiLaden; // true when loaded
+  std::function<void()> DialogeSchliessen; // every open dialog but the model window
+  std::function<void()> OptionenZeigen;
+  // A command of the calculation menu (entry name and index), and the dialog of the reference state.
+  std::function<void(const std::string& name, int index)> Rechnung;
+  std::function<void()> ReferenzZeigen;
 };
 
 // The command line without any double quote, taken out one at a time, and without blanks at its ends.
@@ -85,6 +95,9 @@ public:
   void txtAmpel_Click();
   void mnuHilfeHinweis_Click();
   void mnuHilfe_About_Click();
+  void mnuData_LoadProject_Click();
+  void mnuData_LoadLastSession_Click();
+  void mnuOptions_Click();
 
   // The diagram entries' own tests before a diagram opens; false (after the message) when refused.
   bool GrafErlaubt(const std::string& name, int index);
@@ -109,6 +122,11 @@ public:
   bool LetzteSitzungFaellig = false; // the end found a database: the last session is due
 
 private:
+  enum class ProjektWeg { Kommandozeile, Menue, LetzteSitzung };
+  // A project loaded by any way, with what follows: its batch file, the menus and the model window.
+  bool ProjektOeffnen(const std::string& pfad, ProjektWeg weg);
+  void BatchNachLaden(const std::string& batch, const std::string& verzeichnis, bool fragen);
+
   ProjectState& s_;
   ui::Oberflaeche& ui_;
   RahmenDienste d_;

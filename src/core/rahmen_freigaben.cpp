@@ -96,7 +96,7 @@ unsigned BedarfVon(const std::string& name, int index) {
   if (name == ToolbarName) return ToolbarBedarf(index);
   if (name == "mnuStoffwahl") return BrauchtDatenbank;
   if (name == "mnuModel" || name == "mnuData_SaveProject" || name == "mnuData_BatchEdit" ||
-      name == "mnuData_Fitting" || name == "mnuFitting")
+      name == "mnuData_Fitting" || name == "mnuFitting" || name == "mnuOptions")
     return BrauchtStoff;
   if (name == "mnuData_ParameterEOS") return BrauchtModell;
   if (BeginntMit(name, "mnuCalc")) return CalcBedarf(name, index);
@@ -158,6 +158,10 @@ bool DatenbankFunktionVorhanden(const ProjectState& s, const std::string& name, 
 BefehlsSatz::BefehlsSatz() {
   for (const char* name : {"mnuData",
                            "mnuData_NewProject",
+                           "mnuData_LoadProject",
+                           "mnuData_LoadLastSession",
+                           "mnuData_SaveProject",
+                           "mnuOptions",
                            "mnuProjectStatus",
                            "mnuData_ParameterEOS",
                            "mnuShowApp_path",

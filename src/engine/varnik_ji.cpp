@@ -4,6 +4,7 @@
 #include "core/listen_datei.h"
 #include "core/zahlformat.h"
 
+#include <charconv>
 #include <filesystem>
 #include <system_error>
 #include <vector>
@@ -17,7 +18,7 @@ namespace {
 
 const char* const TitelNichtMoeglich = "Ausführung nicht möglich";
 const char* const ZahlMuster = ".00000000E+00";
-const char* const NullFeld = "0.00000000E+00"; // filler of a block shorter than its line
+const char* const NullFeld = "0.00000000E+00";    // filler of a block shorter than its line
 constexpr std::size_t DampfdruckZeileLaenge = 12; // the longest block: Wagner, ten values and two limits
 constexpr int WartenMs = 100000;
 
@@ -27,9 +28,14 @@ std::string Zahl(double x) {
   return FormatVB(x, ZahlMuster);
 }
 
-// A single value with its exact value: eight digits carry all of its precision.
+// A single value by its own shortest decimal digits (273.15, not the 273.149994 of its binary
+// widening); read back into single precision they give the same value in all but rare cases.
 std::string Zahl(float x) {
-  return Zahl(static_cast<double>(x));
+  char text[32];
+  const auto ende = std::to_chars(text, text + sizeof text, x).ptr;
+  double wert = 0;
+  std::from_chars(text, ende, wert);
+  return Zahl(wert);
 }
 
 std::string Zahl(int16_t x) {
@@ -44,15 +50,18 @@ public:
   }
   Zeile& operator<<(const TGrenzen& g) { return *this << g.TLo << g.THi; }
   template <typename T, std::size_t N> Zeile& operator<<(const std::array<T, N>& werte) {
-    for (const T& w : werte) *this << w;
+    for (const T& w : werte)
+      *this << w;
     return *this;
   }
   void Auffuellen(std::size_t laenge) {
-    while (felder_.size() < laenge) felder_.push_back(NullFeld);
+    while (felder_.size() < laenge)
+      felder_.push_back(NullFeld);
   }
   std::string Text() const {
     std::string t;
-    for (std::size_t i = 0; i < felder_.size(); ++i) t += (i > 0 ? ", " : "") + felder_[i];
+    for (std::size_t i = 0; i < felder_.size(); ++i)
+      t += (i > 0 ? ", " : "") + felder_[i];
     return t;
   }
 
@@ -64,7 +73,8 @@ private:
 // database form carries, so it gets it here; the six others stand as they are.
 void KorrelierterFKBlock(Zeile& z, const std::array<float, 9>& k, const StoffGruppe& st) {
   z << k[0] << k[1] << static_cast<double>(k[2]) + 273.15;
-  for (std::size_t i = 3; i < k.size(); ++i) z << k[i];
+  for (std::size_t i = 3; i < k.size(); ++i)
+    z << k[i];
   z << st.TTripel << st.TKrit;
 }
 
@@ -173,21 +183,20 @@ std::string JiParDateiBytes(const ProjectState& s) {
 void JiParameterBerechnen(ProjectState& s, ui::Oberflaeche& ui, int16_t& err) {
   err = 0;
   const bool eingabeDa = SchreibeDateiBytes(JiPfad(s, JiEingabeDatei), JiParDateiBytes(s));
-  // An old result must never pass for a new one: if it cannot be removed, the program is not run
-  // and the loading below finds it still there only when nothing can be trusted anyway.
-  const bool altesWeg = Loesche(JiPfad(s, JiParameterDateiName(JiModell(s))));
-  if (eingabeDa && altesWeg) {
+  // An old result must never pass for a new one; one that cannot be removed ends the exchange.
+  if (!Loesche(JiPfad(s, JiParameterDateiName(JiModell(s))))) {
+    ui.Meldung("Kein Parameterfile erzeugt.", TitelNichtMoeglich, ui::Symbol::Ausruf);
+    err = 1;
+    return;
+  }
+  // Without its input the program isn't run; the loading then reports the missing result.
+  if (eingabeDa) {
     ui::ProzessAuftrag auftrag;
     auftrag.programm = JiPfad(s, JiProgramm);
     auftrag.arbeitsVerzeichnis = s.Datenbank.ProgrammVerzeichnis;
     auftrag.versteckt = true;
     auftrag.wartenMs = WartenMs;
     ui.StarteProzess(auftrag); // whether it ended in time shows in the parameter file alone
-  }
-  if (!altesWeg) {
-    ui.Meldung("Kein Parameterfile erzeugt.", TitelNichtMoeglich, ui::Symbol::Ausruf);
-    err = 1;
-    return;
   }
   JiParameterLaden(s, ui, err);
 }

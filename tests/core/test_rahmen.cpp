@@ -19,7 +19,7 @@ TEST(Kommandozeile, LosesEveryDoubleQuoteOneByOne) {
 TEST(RahmenStart, TakesAQuotedProjectFromTheCommandLine) {
   Rahmen r;
   bool geladen = false;
-  r.d.ProjektLaden = [&](ProjectState&, const std::string& pfad) {
+  r.d.ProjektLaden = [&](ProjectState&, const std::string& pfad, std::string&) {
     r.aufrufe.push_back("ProjektLaden " + pfad);
     return geladen = true;
   };

@@ -50,14 +50,13 @@ TEST(RahmenFreigaben, CommandsOfLaterBuildsStayDisabledInEveryState) {
   r.MitStoffUndModell();
   r.s.Projekt.Freigaben.ExpDaten = true;
   r.s.Mess.ExpAnzahl = 5;
-  for (const char* name : {"mnuData_LoadProject", "mnuData_LoadLastSession", "mnuData_EditDatenbank",
-                           "mnuOptions", "mnuFitting", "mnuData_Joback_CritData"})
+  for (const char* name : {"mnuData_EditDatenbank", "mnuFitting", "mnuData_Joback_CritData"})
     EXPECT_FALSE(r.logik->Freigegeben(name)) << name;
   EXPECT_FALSE(r.logik->Freigegeben("mnuCalc", 2));
   EXPECT_FALSE(r.logik->Freigegeben("mnuGraf_sub_cut", 1));
-  EXPECT_FALSE(r.logik->Freigegeben(ToolbarName, 6)); // project loading
-  EXPECT_FALSE(r.logik->Freigegeben(ToolbarName, 3)); // a separator
-  EXPECT_FALSE(r.logik->Ausfuehren("mnuData_LoadProject"));
+  EXPECT_FALSE(r.logik->Freigegeben(ToolbarName, 28)); // the database editor
+  EXPECT_FALSE(r.logik->Freigegeben(ToolbarName, 3));  // a separator
+  EXPECT_FALSE(r.logik->Ausfuehren("mnuData_EditDatenbank"));
   EXPECT_TRUE(r.ui.protokoll.empty());
 
   // Once built, the toolbar's data button follows its flag.

@@ -66,8 +66,10 @@ TEST(RahmenAblauf, OpensOnlyWhatTheOpeningStateAllows) {
   EXPECT_TRUE(f.Befehl("mnuData_OpenBank", 1)->isSeparator());
   EXPECT_FALSE(f.Befehl("mnuStoffwahl")->isEnabled());
   EXPECT_FALSE(f.Befehl("mnuModel")->isEnabled());
-  EXPECT_FALSE(f.Befehl("mnuData_LoadProject")->isEnabled()); // visible, but not part of this build
-  EXPECT_TRUE(f.Befehl("mnuData_LoadProject")->isVisible());
+  EXPECT_TRUE(f.Befehl("mnuData_LoadProject")->isEnabled()); // a project brings its own database
+  EXPECT_FALSE(f.Befehl("mnuOptions")->isEnabled());
+  EXPECT_FALSE(f.Befehl("mnuData_EditDatenbank")->isEnabled()); // visible, but not part of this build
+  EXPECT_TRUE(f.Befehl("mnuData_EditDatenbank")->isVisible());
   EXPECT_FALSE(f.Befehl("mnuCalc", 2)->isEnabled());
   EXPECT_EQ(f.Befehl("mnuGraf_sub_cut", 1)->text(), "isotherm p - v");
   EXPECT_EQ(f.Menue("mnuGraf_sub_database", 9), f.Befehl("mnuGraf_sub_database", 9)->menu());

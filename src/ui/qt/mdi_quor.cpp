@@ -4,7 +4,9 @@
 #include "ui/oberflaeche.h"
 #include "ui/qt/menue_tabelle.h"
 #include "ui/qt/modell_fenster.h"
+#include "ui/qt/projekt_dialog_dienste.h"
 #include "ui/qt/rahmen_dienste.h"
+#include "ui/qt/rechnung_steuerung.h"
 #include "ui/qt/stoff_wahl_fenster.h"
 #include "ui/qt/symbole.h"
 #include "ui/qt/text_fenster.h"
@@ -34,7 +36,9 @@ QString Schluessel(const QString& name, int index) {
 
 mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
     : QMainWindow(eltern), state_(state), ui_(ui), mdi_(new QMdiArea(this)) {
+  rechnung_ = new RechnungSteuerung(state, ui, mdi_, this);
   logik_ = std::make_unique<RahmenLogik>(state, ui, Dienste());
+  RechnungBefehleGebaut(logik_->Befehle);
   setObjectName("mdiQUOR");
   setWindowTitle(QString::fromUtf8(HauptfensterTitel));
   setWindowIcon(ProgrammSymbol());
@@ -57,6 +61,10 @@ RahmenDienste mdiQUOR::Dienste() {
   d.TextFensterZeigen = [this](const std::string& titel, const std::string& text) {
     ZeigeTextFenster(frmQTextEdit(titel, text), this);
   };
+  d.Rechnung = [this](const std::string& name, int index) { rechnung_->Menue(name, index); };
+  d.ReferenzZeigen = [this] { rechnung_->ReferenzZeigen(); };
+  d.ProtokollSchliessen = [this] { rechnung_->SeiteSchliessen(); };
+  ProjektFensterDienste(d, *this, state_, ui_);
   return d;
 }
 

@@ -21,6 +21,7 @@ namespace quor::ui {
 
 class Oberflaeche;
 class ModellFenster;
+class RechnungSteuerung;
 class StoffWahlFenster;
 
 extern const char* const HauptfensterTitel;
@@ -46,6 +47,7 @@ public:
   QToolButton* Ampel() const { return ampel_; }
   StoffWahlFenster* StoffWahl() const { return stoffWahl_; }
   ModellFenster* Modelle() const { return modell_; }
+  RechnungSteuerung* Rechnung() const { return rechnung_; }
 
   // Enabled entries and buttons, status bar panels and Ampel from the project state.
   void Aktualisieren();
@@ -76,6 +78,7 @@ private:
   StoffWahlFenster* stoffWahl_ = nullptr;
   ModellFenster* modell_ = nullptr;
   QMdiSubWindow* modellFenster_ = nullptr;
+  RechnungSteuerung* rechnung_ = nullptr; // the windows of the state calculations
 };
 
 } // namespace quor::ui

@@ -2,6 +2,7 @@
 
 #include "engine/eos_parameter.h"
 #include "substance/datenbank.h"
+#include "ui/qt/projekt_dialog_dienste.h"
 
 namespace quor::ui {
 
@@ -27,6 +28,7 @@ RahmenDienste StandardDienste(Oberflaeche& ui) {
   d.DatenbankWaehlen = [&ui](ProjectState& s, int typ) { return DatenbankWaehlenUndOeffnen(s, typ, ui); };
   d.ParameterEOSText = [](ProjectState& s) { return ParameterEOSText(s); };
   d.ParameterEOSTitel = ParameterEOSTitel;
+  ProjektDiensteOhneFenster(d, ui);
   return d;
 }
 

@@ -1,0 +1,261 @@
+#include "cli/argumente.h"
+
+#include "cli/fehler.h"
+#include "core/zahl_lesen.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <map>
+
+namespace quor::cli {
+
+namespace {
+
+// An option: its name, whether it takes a value, and the commands that use it (empty: global).
+struct Option {
+  const char* name;
+  bool wert;
+  const char* befehle;
+};
+
+const Option Optionen[] = {
+    {"--db", true, ""},
+    {"--substance", true, ""},
+    {"--eos", true, ""},
+    {"--vapour-pressure", true, ""},
+    {"--hlv", true, ""},
+    {"--cp", true, ""},
+    {"--watson", true, ""},
+    {"--concept", true, ""},
+    {"--liquid-density", true, ""},
+    {"--energy-mode", true, ""},
+    {"--volume-mode", true, ""},
+    {"--reference", true, ""},
+    {"--h-ref", true, ""},
+    {"--s-ref", true, ""},
+    {"--T-ref", true, ""},
+    {"--p-ref", true, ""},
+    {"--T-env", true, ""},
+    {"--p-env", true, ""},
+    {"--virial-b0", true, ""},
+    {"--virial-b1", true, ""},
+    {"--virial-b2", true, ""},
+    {"--json", false, ""},
+    {"--help", false, ""},
+    {"--T", true, "calc"},
+    {"--p", true, "calc"},
+    {"--rho", true, "calc"},
+    {"--v", true, "calc"},
+    {"--m", true, "calc"},
+    {"--V", true, "calc"},
+    {"--equilibrium", false, "calc"},
+    {"--sections", true, "calc batch"},
+    {"--functions", false, "calc batch"},
+    {"--ref-point", true, "calc batch"},
+    {"--data", true, "batch"},
+    {"--lst", true, "batch"},
+    {"--csv", true, "batch"},
+    {"--details", false, "batch"},
+};
+
+const Option* FindeOption(const std::string& name) {
+  for (const Option& o : Optionen)
+    if (name == o.name) return &o;
+  return nullptr;
+}
+
+bool BenutztVon(const Option& o, const std::string& befehl) {
+  const std::string liste = std::string(" ") + o.befehle + " ";
+  return *o.befehle == '\0' || liste.find(" " + befehl + " ") != std::string::npos;
+}
+
+std::string Klein(std::string t) {
+  std::transform(t.begin(), t.end(), t.begin(), [](unsigned char c) { return std::tolower(c); });
+  return t;
+}
+
+CliFehler KeineZahl(const std::string& option, const std::string& text) {
+  return Eingabefehler("keine gültige Eingabe (" + option + " \"" + text + "\")");
+}
+
+double Zahl(const std::string& option, const std::string& text) {
+  const ZahlErgebnis z = LeseZahl(text);
+  if (!z.ok) throw KeineZahl(option, text);
+  return z.wert;
+}
+
+// The given values of a calculation: positive numbers, as the input dialog demands them.
+double PositiveZahl(const std::string& option, const std::string& text) {
+  const double x = Zahl(option, text);
+  if (!(x > 0)) throw KeineZahl(option, text);
+  return x;
+}
+
+int Ganzzahl(const std::string& option, const std::string& text, int von, int bis) {
+  const double x = Zahl(option, text);
+  if (x != std::floor(x) || x < von || x > bis)
+    throw Eingabefehler(option + " " + text + ": expected a whole number from " + std::to_string(von) +
+                        " to " + std::to_string(bis));
+  return static_cast<int>(x);
+}
+
+std::array<std::string, 4> Bezugspunkt(const std::string& text) {
+  // "," is also a decimal mark of the number parser, so ";" separates when it is used.
+  const char trenner = text.find(';') != std::string::npos ? ';' : ',';
+  std::vector<std::string> teile(1);
+  for (const char c : text) {
+    if (c == trenner)
+      teile.emplace_back();
+    else
+      teile.back() += c;
+  }
+  if (teile.size() != 4)
+    throw Eingabefehler("--ref-point \"" + text + "\": expected four values T,p,rhoL,rhoV");
+  std::array<std::string, 4> werte;
+  for (std::size_t i = 0; i < 4; ++i) {
+    PositiveZahl("--ref-point", teile[i]);
+    werte[i] = teile[i];
+  }
+  return werte;
+}
+
+bool ArtErlaubt(const std::string& befehl, int art) {
+  if (art < 1 || art > 24 || art == 12 || art == 23) return false;
+  return befehl != "batch" || (art != 9 && art != 10);
+}
+
+} // namespace
+
+Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
+  Aufruf a;
+  std::map<std::string, std::string> werte;
+  std::vector<std::string> positionen;
+  for (std::size_t i = 0; i < argumente.size(); ++i) {
+    const std::string& arg = argumente[i];
+    if (arg == "-h") {
+      a.Hilfe = true;
+      continue;
+    }
+    if (arg.rfind("--", 0) != 0 || arg.size() == 2) {
+      positionen.push_back(arg);
+      continue;
+    }
+    const std::size_t gleich = arg.find('=');
+    const std::string name = arg.substr(0, gleich);
+    const Option* o = FindeOption(name);
+    if (o == nullptr) throw Eingabefehler("unknown option " + name + " (see quor-cli --help)");
+    if (a.Gegeben.count(name) != 0) throw Eingabefehler("option " + name + " is given twice");
+    std::string wert;
+    if (o->wert) {
+      if (gleich != std::string::npos) {
+        wert = arg.substr(gleich + 1);
+      } else {
+        if (i + 1 >= argumente.size()) throw Eingabefehler("option " + name + " needs a value");
+        wert = argumente[++i];
+      }
+    } else if (gleich != std::string::npos) {
+      throw Eingabefehler("option " + name + " takes no value");
+    }
+    a.Gegeben.insert(name);
+    werte[name] = wert;
+  }
+  a.Text = werte;
+  if (a.Gegeben.count("--help") != 0) a.Hilfe = true;
+  if (a.Hilfe) return a;
+
+  if (positionen.empty())
+    throw Eingabefehler("no command given (list, info, calc, batch; see quor-cli --help)");
+  a.Befehl = positionen[0];
+  if (a.Befehl != "list" && a.Befehl != "info" && a.Befehl != "calc" && a.Befehl != "batch")
+    throw Eingabefehler("unknown command '" + a.Befehl + "' (see quor-cli --help)");
+  const bool mitArt = a.Befehl == "calc" || a.Befehl == "batch";
+  if (mitArt) {
+    if (positionen.size() < 2)
+      throw Eingabefehler(a.Befehl + " needs the kind of calculation (see quor-cli --help)");
+    a.Art = Ganzzahl("kind", positionen[1], 1, 24);
+    if (!ArtErlaubt(a.Befehl, a.Art))
+      throw Eingabefehler("kind " + positionen[1] + " is not available for " + a.Befehl);
+  }
+  const std::size_t erwartet = mitArt ? 2 : 1;
+  if (positionen.size() > erwartet) throw Eingabefehler("unexpected argument '" + positionen[erwartet] + "'");
+
+  for (const std::string& name : a.Gegeben) {
+    const Option* o = FindeOption(name);
+    if (!BenutztVon(*o, a.Befehl))
+      throw Eingabefehler("option " + name + " is not used by command " + a.Befehl);
+  }
+
+  auto hat = [&](const char* name) { return werte.count(name) != 0; };
+  auto wert = [&](const char* name) { return werte.at(name); };
+
+  if (hat("--db")) a.Datenbank = wert("--db");
+  if (hat("--substance")) a.Stoff = wert("--substance");
+  if (hat("--eos")) a.EOS = Ganzzahl("--eos", wert("--eos"), 0, 16);
+  if (hat("--vapour-pressure")) a.Dampfdruck = Ganzzahl("--vapour-pressure", wert("--vapour-pressure"), 0, 8);
+  if (hat("--hlv")) a.HLV = Ganzzahl("--hlv", wert("--hlv"), 0, 7);
+  if (hat("--cp")) a.Cp = Ganzzahl("--cp", wert("--cp"), 0, 2);
+  if (hat("--watson")) {
+    Zahl("--watson", wert("--watson"));
+    a.Watson = wert("--watson");
+  }
+  if (hat("--concept")) {
+    const std::string k = Klein(wert("--concept"));
+    if (k != "global" && k != "partial")
+      throw Eingabefehler("--concept \"" + wert("--concept") + "\": expected global or partial");
+    a.KonzeptGlobal = k == "global";
+  }
+  if (hat("--liquid-density")) {
+    const std::string d = Klein(wert("--liquid-density"));
+    if (d != "benson" && d != "database")
+      throw Eingabefehler("--liquid-density \"" + wert("--liquid-density") +
+                          "\": expected benson or database");
+    a.BensonDichte = d == "benson";
+  }
+  if (hat("--energy-mode")) a.EnergieMode = Ganzzahl("--energy-mode", wert("--energy-mode"), 0, 3);
+  if (hat("--volume-mode")) a.VolumenMode = Ganzzahl("--volume-mode", wert("--volume-mode"), 0, 2);
+  if (hat("--reference")) {
+    a.RefArt = Ganzzahl("--reference", wert("--reference"), 1, 10);
+    if (*a.RefArt != 1 && *a.RefArt != 2 && *a.RefArt != 10)
+      throw Eingabefehler("--reference " + wert("--reference") + ": expected 1, 2 or 10");
+  }
+  const char* const referenz[6] = {"--h-ref", "--s-ref", "--T-ref", "--p-ref", "--T-env", "--p-env"};
+  for (std::size_t i = 0; i < 6; ++i) {
+    if (!hat(referenz[i])) continue;
+    Zahl(referenz[i], wert(referenz[i]));
+    a.Referenz[i] = wert(referenz[i]);
+  }
+  const char* const virial[3] = {"--virial-b0", "--virial-b1", "--virial-b2"};
+  for (std::size_t i = 0; i < 3; ++i) {
+    if (!hat(virial[i])) continue;
+    Zahl(virial[i], wert(virial[i]));
+    a.Virial[i] = wert(virial[i]);
+  }
+  a.Json = hat("--json");
+
+  auto positiv = [&](const char* name, std::optional<double>& ziel) {
+    if (hat(name)) ziel = PositiveZahl(name, wert(name));
+  };
+  positiv("--T", a.T);
+  positiv("--p", a.p);
+  positiv("--rho", a.rho);
+  positiv("--v", a.v);
+  positiv("--m", a.m);
+  positiv("--V", a.V);
+  if (a.rho && a.v) throw Eingabefehler("give either --rho or --v, not both");
+  if (hat("--sections")) {
+    a.Abschnitte = Ganzzahl("--sections", wert("--sections"), 1, 4);
+    a.AbschnitteGegeben = true;
+  }
+  a.Funktionen = hat("--functions");
+  a.Gleichgewicht = hat("--equilibrium");
+  a.Details = hat("--details");
+  if (hat("--ref-point")) a.Bezugspunkt = Bezugspunkt(wert("--ref-point"));
+  if (hat("--data")) a.Daten = wert("--data");
+  if (hat("--lst")) a.Lst = wert("--lst");
+  if (hat("--csv")) a.Csv = wert("--csv");
+  if (a.Befehl == "batch" && a.Daten.empty()) throw Eingabefehler("batch needs --data FILE.BAQ");
+  return a;
+}
+
+} // namespace quor::cli

@@ -1,0 +1,54 @@
+// The command line of quor-cli: global options, the command with its kind, and the command's options.
+// Every value is checked here (a number that isn't one, a row outside its table, an option that the
+// command doesn't use); the substance and the models are checked later against the database.
+#pragma once
+
+#include <array>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace quor::cli {
+
+struct Aufruf {
+  // Global options.
+  std::string Datenbank; // --db, empty: the bundled database
+  std::string Stoff;     // --substance
+  std::optional<int> EOS, Dampfdruck, HLV, Cp;
+  std::optional<std::string> Watson; // the text as typed into the Watson list
+  std::optional<bool> KonzeptGlobal; // --concept
+  std::optional<bool> BensonDichte;  // --liquid-density
+  std::optional<int> EnergieMode, VolumenMode, RefArt;
+  // Fields of the reference window in its order: h, s, To, po, T(u), p(u) (texts, checked numbers).
+  std::array<std::optional<std::string>, 6> Referenz;
+  // b0, b1, b2 of the hand-input virial model (texts, checked numbers).
+  std::array<std::optional<std::string>, 3> Virial;
+  bool Json = false;
+  bool Hilfe = false;
+
+  std::string Befehl; // list, info, calc, batch
+  int Art = 0;        // kind of calc and batch
+
+  // Options of calc and batch.
+  std::optional<double> T, p, rho, v, m, V;
+  int Abschnitte = 1;
+  bool AbschnitteGegeben = false;
+  bool Funktionen = false;
+  bool Gleichgewicht = false;
+  bool Details = false;
+  std::optional<std::array<std::string, 4>> Bezugspunkt; // T, p, rho(L), rho(V), checked numbers
+  std::string Daten, Lst, Csv;
+
+  std::set<std::string> Gegeben;           // every option named on the line
+  std::map<std::string, std::string> Text; // the value of each option as typed
+};
+
+// Parses argv[1..]; throws CliFehler (exit code 2) with the reason.
+Aufruf LeseAufruf(const std::vector<std::string>& argumente);
+
+// The text of quor-cli --help.
+const char* HilfeText();
+
+} // namespace quor::cli

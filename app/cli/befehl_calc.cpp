@@ -1,0 +1,72 @@
+// calc: one direct calculation, started from its menu entry; the value dialog takes the given values.
+#include "calc/rechnung_starten.h"
+#include "cli/ausgabe.h"
+#include "cli/befehle.h"
+#include "cli/fehler.h"
+#include "cli/steuerung.h"
+
+#include <ostream>
+
+namespace quor::cli {
+
+int BefehlCalc(Sitzung& z, std::ostream& aus, std::ostream& fehler) {
+  const Aufruf& a = z.aufruf;
+  z.DatenbankOeffnen();
+  z.StoffUndModelle();
+  ProjectState& s = z.s;
+  Steuerung steuerung(z);
+  steuerung.Starten(static_cast<int16_t>(a.Art), false, fehler);
+  frmQCalcOut* seite = steuerung.Seite();
+  if (seite == nullptr) throw CliFehler(ExitRechnung, "no result page was opened");
+  steuerung.ZusatzBloecke(fehler);
+  const bool exit = steuerung.Geschlossen();
+  const RechenKontext& k = seite->Kontext;
+  const bool ok = !exit && !k.ErrorFlag && !SeiteZeigtFehler(seite->Seite);
+  const BezugspunktInfo& bezug = steuerung.Bezug();
+
+  const auto meldungen = Meldungen(z.ui, z.Gedruckt, z.ui.protokoll.size());
+  z.Gedruckt = z.ui.protokoll.size();
+  if (a.Json) {
+    JsonSchreiber j;
+    j.BeginObjekt();
+    j.Feld("ok", ok);
+    j.Feld("kind", a.Art);
+    j.Feld("title", seite->Caption);
+    j.Schluessel("substance");
+    StoffJson(j, s);
+    j.Schluessel("models");
+    ModelleJson(j, s);
+    if (bezug.benutzt) {
+      j.Schluessel("referencePoint");
+      BezugspunktJson(j, s, bezug);
+    }
+    j.Schluessel("page");
+    SeiteJson(j, seite->Seite);
+    j.Feld("HatL", k.HatL);
+    j.Feld("HatV", k.HatV);
+    j.Feld("Gebiet", s.EOS.Gebiet);
+    j.Schluessel("VRoots");
+    j.BeginListe(true);
+    for (const double v : s.EOS.VRoots)
+      j.Zahl(v);
+    j.EndeListe();
+    j.Schluessel("Ergebnis");
+    ErgebnisJson(j, k.Ergebnis);
+    j.Schluessel("ErgebnisVektor");
+    ErgebnisVektorJson(j, k.Ergebnis);
+    j.Schluessel("StapelErgebnis");
+    StapelErgebnisJson(j, k.StapelErgebnisse.at(0));
+    j.Schluessel("messages");
+    MeldungenJson(j, meldungen);
+    j.EndeObjekt();
+    aus << j.Ergebnis();
+  } else {
+    MeldungenSchreiben(fehler, meldungen);
+    if (bezug.benutzt) aus << BezugspunktText(s, bezug) << "\n";
+    if (!exit) aus << SeitenText(seite->Caption, seite->Seite);
+  }
+  if (!ok) fehler << "quor-cli: the calculation failed" << (exit ? " (the page closed at once)" : "") << "\n";
+  return ok ? ExitOK : ExitRechnung;
+}
+
+} // namespace quor::cli

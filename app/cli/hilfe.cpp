@@ -1,0 +1,83 @@
+#include "cli/argumente.h"
+
+namespace quor::cli {
+
+const char* HilfeText() {
+  return R"(Usage: quor-cli [global options] COMMAND [options]
+
+QUOR-6 thermodynamic state calculations on pure substances, without a window. The commands run
+the program's own substance choice, model window, calculation dispatcher and result files.
+
+Commands:
+  list                    the substances of the database (position, system number, formula,
+                          name, CAS number)
+  info                    constants and derived values of the substance, the models after the
+                          model window's corrections, the EOS constants, the data diagnosis and
+                          the EOS parameter report
+  calc KIND [options]     one direct calculation of that kind; prints the result page
+  batch KIND --data FILE.BAQ [--lst OUT] [--csv OUT] [--sections N] [--functions] [--details]
+                          every live point of a measured-data file; one line per point;
+                          --lst writes the result list, --csv the record of all points,
+                          --details adds the per-point derivative pages to the list
+
+Kinds (KIND):
+  1  T, rho(V) => p          2  T, rho(L) => p          3  T, p => rho
+  13 p, rho => T             4  T => p(LV)              5  p => T(LV)
+  6  T => delta(LV)h         7  p => delta(LV)h         8  T, p => h, u, s, g, a, e, cp, ...
+  9  vessel (GLOBAL)         10 vessel (PARTIAL)        11 T => virial coefficients B
+  14 rho(L) database         24 rho(S) database         15 delta(LV)h database
+  16 cp(idG) database        17 cp(L) database          18 cp(S) database
+  19 Frost/Kalkwarf p(LV)    20 Wagner p(LV)            21 Antoine (low p)   22 Antoine (high p)
+  Kinds 9 and 10 are not available for batch.
+
+Options of calc:
+  --T X, --p X            temperature in K, pressure in kPa
+  --rho X | --v X         density in kg/m^3 or volume in the unit of --volume-mode (kinds 1, 2, 13)
+  --m X --V X             mass in kg and volume in m^3 of the vessel (kinds 9, 10, with --T)
+  --sections N            1 nothing further, 2 fugacity and mechanical coefficients,
+                          3 derivatives, 4 both (also for batch)
+  --functions             the block of thermodynamic functions (also for batch)
+  --equilibrium           kind 3: T and p describe a vapour-liquid equilibrium (PARTIAL)
+  --ref-point T,p,rhoL,rhoV
+                          reference point of a PARTIAL calculation (also for batch); without it
+                          the point is proposed from the substance's data
+
+Global options:
+  --db PATH               database (.Q07, or .Q06); default QUOR.Q07 of the program directory
+  --substance TEXT        list name, CAS number, system number (#123), or a synonym in German
+                          or English
+  --eos N                 EOS row: 0 ideal gas; 2 van der Waals, 3 Berthelot, 4 Redlich/Kwong,
+                          5 Soave/Redlich/Kwong, 6 Peng/Robinson, 7, 8 Varnik/Ji I, II;
+                          10 virial hand input, 11..15 virial forms of 2..6, 16 Pitzer/Curl
+  --vapour-pressure N     1 Antoine (low), 2 Antoine (high), 3 Frost/Kalkwarf, 4 Wagner,
+                          5 August, 6 Frost/Kalkwarf (vdW), 7 Frost/Kalkwarf (RK), 8 Thompson
+  --hlv N                 delta(LV)h: 1 database, 2 Chen, 3 Carruth/Kobayashi, 4 Watson,
+                          5 from p(LV) + rhoL(T), 6 from p(LV) + Benson, 7 from the cubic EOS
+  --cp N                  ideal-gas cp: 1 polynomial, 2 sinh/cosh
+  --watson X              exponent of the Watson correlation (with --hlv 4)
+  --concept global|partial
+                          GLOBAL (saturation from the cubic EOS) or PARTIAL (vapour-pressure
+                          equation); default: the model window's concept
+  --liquid-density benson|database
+                          liquid density of a PARTIAL calculation
+  --energy-mode 0..3      0 kJ/kmol, 1 per R, 2 per R*T(preset), 3 kJ/kg
+  --volume-mode 0..2      0 m^3/kmol, 1 m^3/kg, 2 reduced T, p, v
+  --reference 1|2|10      zero of h and s: 1 user values, 2 formation quantities,
+                          10 conventional normalisation
+  --h-ref X, --s-ref X    h and s at the reference state (units of --energy-mode; --reference 1)
+  --T-ref X, --p-ref X    reference temperature (K) and pressure (kPa) (--reference 1)
+  --T-env X, --p-env X    environment of the exergies, K and kPa
+  --virial-b0 X, --virial-b1 X, --virial-b2 X
+                          B/(m^3/kmol) = b0 - b1/T^b2 of the hand-input virial model (--eos 10)
+  --json                  machine-readable output (JSON) on stdout
+  --help, -h              this text
+
+Models are offered, defaulted and corrected as in the model window; a model that the
+substance's data don't allow is refused. Messages of the program (German) go to stderr, in JSON
+output into "messages".
+
+Exit codes: 0 success, 1 the calculation failed, 2 usage or input error.
+)";
+}
+
+} // namespace quor::cli

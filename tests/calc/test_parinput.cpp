@@ -1,0 +1,195 @@
+// The value dialog: its fields by what it is opened for, densities and volumes in the display's
+// units, the refusal of what is not a positive number, and where the values go.
+#include "calc/parinput.h"
+#include "calc_testhilfe.h"
+#include "support/relativ.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+
+struct Eingabe {
+  ProjectState s = StoffMitModell(CasMethan, 6);
+  ui::SkriptOberflaeche ui;
+  int rechnungen = 0;
+  frmParinput frm{s, ui, [this] {
+                    ++rechnungen;
+                    return std::string();
+                  }};
+  explicit Eingabe(int16_t modus) {
+    s.Rechnung.ParinputModus = modus;
+    frm.Form_Load();
+  }
+  std::vector<std::string> Labels() const {
+    std::vector<std::string> l;
+    for (const ParinputFeld& f : frm.Felder)
+      l.push_back(f.Bz);
+    return l;
+  }
+  bool OK(std::vector<std::string> werte) {
+    for (std::size_t i = 0; i < werte.size(); ++i)
+      frm.Felder[i].par = werte[i];
+    return frm.cmdParameter_OK_Click();
+  }
+  const ExpDatenSatz& Zeile0() const { return s.Mess.ExpDaten[0]; }
+};
+
+using Texte = std::vector<std::string>;
+
+// A direct calculation asks for what its kind needs: T, p, or a density; the reference point and the
+// vessel have their own captions and labels.
+TEST(frmParinput, FieldsByWhatTheDialogIsFor) {
+  Eingabe tp(103);
+  EXPECT_EQ(tp.frm.Caption, "Eingabe Direktberechnung");
+  EXPECT_EQ(tp.frm.cmdParameter_OKCaption, "&Berechnen");
+  EXPECT_EQ(tp.Labels(), (Texte{"        T/K = ", "      p/kPa = "}));
+  EXPECT_FALSE(tp.frm.fraRhoVInputVisible);
+  EXPECT_EQ(Eingabe(105).Labels(), Texte{"      p/kPa = "});
+  EXPECT_EQ(Eingabe(111).Labels(), Texte{"        T/K = "});
+  EXPECT_EQ(Eingabe(122).Labels(), Texte{"        T/K = "});
+
+  Eingabe prho(113);
+  EXPECT_EQ(prho.Labels(), (Texte{"      p/kPa = ", " rho/kg/m^3 = "}));
+  EXPECT_TRUE(prho.frm.fraRhoVInputVisible);
+  EXPECT_EQ(prho.frm.optRhoVTexte[0], " Eingabe Dichte kg/m^3");
+  EXPECT_EQ(prho.frm.optRhoVTexte[1], " Eingabe molares Volumen, vgl. \"Optionen\" ");
+
+  Eingabe bezug(4);
+  EXPECT_EQ(bezug.frm.Caption, "Eingabe: Bezugspunkt");
+  EXPECT_EQ(bezug.frm.cmdParameter_OKCaption, "OK");
+  EXPECT_EQ(bezug.Labels(), (Texte{"        T/K = ", "  p(LV)/kPa = ", "rho_L/kg/m^3= ", "rho_V/kg/m^3= "}));
+
+  Eingabe behaelter(33);
+  EXPECT_EQ(behaelter.frm.Caption, "Behälter-Berechnung (GLOBAL)");
+  EXPECT_EQ(behaelter.Labels(),
+            (Texte{"      V/m^3   ", "      m/kg    ", "      n/kmol  ", "      T/K     "}));
+  EXPECT_TRUE(behaelter.frm.optm_nVisible);
+  EXPECT_TRUE(behaelter.frm.Felder[1].enabled);
+  EXPECT_FALSE(behaelter.frm.Felder[2].enabled);
+  behaelter.frm.optm_n_Click(1);
+  EXPECT_FALSE(behaelter.frm.Felder[1].enabled);
+  EXPECT_TRUE(behaelter.frm.Felder[2].enabled);
+  behaelter.s.Modell.RechnungGlobal = false;
+  behaelter.frm.Form_Load();
+  EXPECT_EQ(behaelter.frm.Caption, "Behälter-Berechnung (PARTIAL)");
+  EXPECT_FALSE(behaelter.frm.Felder[1].enabled); // the choice of amount is kept
+}
+
+// The dialog stays open: each input goes to row 0 (the old values cleared) and is calculated, and
+// the next input follows at once.
+TEST(frmParinput, EachInputIsCalculatedAndTheDialogStays) {
+  Eingabe e(103);
+  e.s.Mess.ExpDaten[0].RhoL = 400; // left from an earlier kind
+  EXPECT_FALSE(e.OK({"150", "2000,5"}));
+  EXPECT_EQ(e.rechnungen, 1);
+  EXPECT_EQ(e.Zeile0().T, 150);
+  EXPECT_EQ(e.Zeile0().p, 2000.5);
+  EXPECT_EQ(e.Zeile0().RhoL, 0);
+  EXPECT_FALSE(e.frm.Geschlossen);
+  EXPECT_FALSE(e.OK({"160", "1.5E3"}));
+  EXPECT_EQ(e.rechnungen, 2);
+  EXPECT_EQ(e.Zeile0().p, 1500);
+  EXPECT_TRUE(e.ui.protokoll.empty());
+
+  // Opened again, the fields show the last input.
+  e.frm.Form_Load();
+  EXPECT_EQ(e.frm.Felder[0].par, "160");
+  EXPECT_EQ(e.frm.Felder[1].par, "1500");
+}
+
+// What is not a positive number is refused with one message; nothing is stored or calculated.
+TEST(frmParinput, RefusesWhatIsNoPositiveNumber) {
+  for (const char* falsch : {"", "abc", "0", "-5", "1e400", "12 K"}) {
+    Eingabe e(103);
+    e.s.Mess.ExpDaten[0].T = 99;
+    EXPECT_FALSE(e.OK({"150", falsch})) << falsch;
+    ASSERT_EQ(e.ui.Meldungen().size(), 1u) << falsch;
+    EXPECT_EQ(e.ui.Letzte().text, "keine gültige Eingabe");
+    EXPECT_EQ(e.ui.Letzte().titel, "Ausführung nicht möglich");
+    EXPECT_EQ(e.rechnungen, 0);
+    EXPECT_EQ(e.Zeile0().T, 99);
+    EXPECT_FALSE(e.frm.Geschlossen);
+  }
+}
+
+// A density goes to row 0 as given: rho(V) for kinds 1 and 13, rho(L) for kind 2. A volume in the
+// display's unit is taken back to the engine's before it becomes the density M/v.
+TEST(frmParinput, DensityOrVolumeInTheDisplayUnit) {
+  Eingabe dichte(102);
+  dichte.OK({"150", "350,5"});
+  EXPECT_EQ(dichte.Zeile0().RhoL, 350.5f);
+  EXPECT_EQ(dichte.Zeile0().RhoV, 0);
+  EXPECT_TRUE(dichte.s.Rechnung.EingabeRho);
+
+  const float M = dichte.s.Stoff.MolMasse;
+  Eingabe molar(101);
+  molar.frm.optRhoV_Click(1);
+  EXPECT_EQ(molar.frm.Felder[1].Bz, " V/m^3/kmol = ");
+  molar.OK({"200", "0.5"});
+  EXPECT_REL(molar.Zeile0().RhoV, M / 0.5, 1e-6); // rho = M / v
+  EXPECT_FALSE(molar.s.Rechnung.EingabeRho);
+
+  Eingabe spezifisch(113);
+  spezifisch.s.Einheiten.VolumenMode = 1;
+  SetzeEinheiten(spezifisch.s, spezifisch.ui);
+  spezifisch.frm.Form_Load();
+  spezifisch.frm.optRhoV_Click(1);
+  EXPECT_EQ(spezifisch.frm.optRhoVTexte[1], "Eingabe spez. Volumen, vgl. \"Optionen\" ");
+  EXPECT_EQ(spezifisch.frm.Felder[1].Bz, "  V/m^3/kg  = ");
+  spezifisch.OK({"1000", "0.02"});
+  EXPECT_REL(spezifisch.Zeile0().RhoV, 50.0, 1e-6); // 1 / (0.02 m^3/kg)
+
+  Eingabe reduziert(101);
+  reduziert.s.Einheiten.VolumenMode = 2;
+  SetzeEinheiten(reduziert.s, reduziert.ui);
+  const double vKrit = reduziert.s.EOS.vKritEOS;
+  ASSERT_GT(vKrit, 0);
+  reduziert.frm.Form_Load();
+  reduziert.frm.optRhoV_Click(1);
+  EXPECT_EQ(reduziert.frm.Felder[1].Bz, " V/(m^3/m^3) = ");
+  reduziert.OK({"200", "2"});
+  EXPECT_REL(reduziert.Zeile0().RhoV, M / (2 * vKrit), 1e-6); // twice the critical volume
+
+  // The kept density shows as a volume in the chosen unit when the dialog opens again.
+  molar.frm.Form_Load();
+  EXPECT_EQ(molar.frm.optRhoV, 1);
+  EXPECT_EQ(molar.frm.Felder[1].par, "0.5");
+}
+
+// The reference point is stored in single precision and the dialog closes; the vessel takes a mass
+// or an amount, and is calculated with the dialog kept open.
+TEST(frmParinput, ReferencePointAndVessel) {
+  Eingabe bezug(4);
+  EXPECT_TRUE(bezug.OK({"111.66", "101.325", "422.6", "1.82"}));
+  EXPECT_TRUE(bezug.frm.Geschlossen);
+  EXPECT_EQ(bezug.s.Referenz.BezugRhoL, 422.6f);
+  EXPECT_EQ(bezug.rechnungen, 0);
+
+  Eingabe behaelter(33);
+  const double M = behaelter.s.Stoff.MolMasse;
+  behaelter.frm.optm_n_Click(1);
+  EXPECT_FALSE(behaelter.OK({"0.1", "", "2", "150"})); // the locked mass field is not read
+  const BehaelterDaten& b = behaelter.s.Rechnung.Behaelter;
+  EXPECT_EQ(b.V, 0.1);
+  EXPECT_REL(b.m, 2 * M, 1e-12);
+  EXPECT_EQ(b.BehaelterT, 150.0f);
+  EXPECT_FALSE(behaelter.s.Rechnung.EingabeMasse);
+  EXPECT_EQ(behaelter.rechnungen, 1);
+  EXPECT_FALSE(behaelter.frm.Geschlossen);
+  EXPECT_EQ(behaelter.Zeile0().T, 0); // the direct input row is not touched
+}
+
+// The fields take the keys of a number and the control keys only.
+TEST(frmParinput, KeyFilterPassesWhatANumberNeeds) {
+  for (char32_t c : std::u32string(U"0123456789.,-+eEdD\b\r\t"))
+    EXPECT_TRUE(ZahlTaste(c)) << static_cast<int>(c);
+  for (char32_t c : std::u32string(U"aKx /;%ä"))
+    EXPECT_FALSE(ZahlTaste(c)) << static_cast<int>(c);
+}
+
+} // namespace
+} // namespace quor

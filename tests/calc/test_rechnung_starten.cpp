@@ -1,0 +1,142 @@
+// From a command of the calculation menu to the first window: the kind of each entry, the refusal of
+// kind 2 without a liquid phase, the question on T and p at equilibrium, and which dialog comes next
+// in direct and batch mode.
+#include "calc/rechnung_starten.h"
+#include "calc_testhilfe.h"
+#include "eingabe_testhilfe.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+using namespace quor::test;
+using Schritte = std::vector<std::string>;
+
+struct Start {
+  ProjectState s;
+  ui::SkriptOberflaeche ui;
+  FensterAufnahme fenster;
+  explicit Start(int16_t eos, int16_t hlv = 7) : s(StoffMitModell(CasMethan, eos, hlv)) {}
+  Schritte Menue(const std::string& name, int index) {
+    fenster.schritte.clear();
+    EXPECT_TRUE(mnuCalc_Click(s, ui, fenster.Fenster(), name, index)) << name << index;
+    return fenster.schritte;
+  }
+};
+
+// The entries in menu order, the separators and submenus between them starting nothing.
+TEST(RechnungStarten, EveryEntryHasItsKind) {
+  const std::vector<std::pair<int, int16_t>> calc{{0, 1},  {1, 2},   {2, 3},   {3, 13}, {4, 0},  {5, 4},
+                                                  {6, 5},  {7, 0},   {8, 6},   {9, 7},  {11, 8}, {13, 12},
+                                                  {15, 9}, {16, 10}, {18, 11}, {19, 0}, {20, 0}};
+  for (const auto& [index, art] : calc)
+    EXPECT_EQ(ArtVonMenue("mnuCalc", index), art) << index;
+  const std::vector<int16_t> datenbank{0, 14, 24, 15, 16, 17, 18};
+  for (int index = 0; index <= 6; ++index)
+    EXPECT_EQ(ArtVonMenue("mnuCalc_sub_database", index), datenbank[index]) << index;
+  for (int index = 0; index <= 3; ++index)
+    EXPECT_EQ(ArtVonMenue("mnuCalc_sub_sub_database", index), index + 19);
+  EXPECT_EQ(ArtVonMenue("mnuCalc_sub_sub_database", 4), 0);
+
+  Start t(6);
+  EXPECT_FALSE(mnuCalc_Click(t.s, t.ui, t.fenster.Fenster(), "mnuCalc", 4));
+  EXPECT_EQ(t.s.RechenArt, 0);
+  EXPECT_TRUE(t.fenster.schritte.empty());
+}
+
+// Kind 2 asks for a liquid: with a virial model it is refused before any dialog, and the kind is
+// cleared; the models' cubic counterpart goes straight to the page and the value dialog.
+TEST(RechnungStarten, KindTwoNeedsACubicModel) {
+  Start virial(13);
+  EXPECT_EQ(virial.Menue("mnuCalc", 1), Schritte{});
+  ASSERT_EQ(virial.ui.Meldungen().size(), 1u);
+  EXPECT_EQ(virial.ui.Letzte().text, "nur möglich mit einer kubischen EOS");
+  EXPECT_EQ(virial.ui.Letzte().titel, "Ausführung nicht möglich");
+  EXPECT_EQ(virial.s.RechenArt, 0);
+
+  Start kubisch(6);
+  EXPECT_EQ(kubisch.Menue("mnuCalc", 1), (Schritte{"frmQCalcOut", "frmParinput"}));
+  EXPECT_EQ(kubisch.s.Rechnung.ParinputModus, 102);
+  EXPECT_TRUE(kubisch.ui.protokoll.empty());
+}
+
+// Kind 3 asks whether T and p lie on the saturation curve; "Ja" leads through the concept dialog,
+// "Nein" (the default) to the page with the value dialog over it.
+TEST(RechnungStarten, KindThreeAsksForTheEquilibrium) {
+  Start ja(6);
+  ja.ui.antworten.push_back(ui::Antwort::Ja);
+  EXPECT_EQ(ja.Menue("mnuCalc", 2), Schritte{"frmCalcIn"});
+  ASSERT_EQ(ja.ui.protokoll.size(), 1u);
+  EXPECT_EQ(ja.ui.Letzte().art, "Frage");
+  EXPECT_EQ(ja.ui.Letzte().text, "Sollen die Vorgabewerte T, p ein V-L-Phasengleichgewicht beschreiben?\r\n"
+                                 "\r\n"
+                                 "ACHTUNG: Bei \"Ja\" wird die Existenz einer L-Phase vorausgesetzt\r\n"
+                                 "und eine \"PARTIAL-Berechnung\" durchgeführt.");
+  EXPECT_EQ(ja.ui.Letzte().titel, "T-p-Vorgabe");
+  EXPECT_TRUE(ja.s.Rechnung.TpGleichgewicht);
+  EXPECT_EQ(ja.s.Rechnung.ParinputModus, 103);
+
+  Start nein(6);
+  EXPECT_EQ(nein.Menue("mnuCalc", 2), (Schritte{"frmQCalcOut", "frmParinput"}));
+  EXPECT_FALSE(nein.s.Rechnung.TpGleichgewicht);
+
+  // The answer of one calculation does not carry over to the next kind.
+  ja.Menue("mnuCalc", 11);
+  EXPECT_FALSE(ja.s.Rechnung.TpGleichgewicht);
+}
+
+// The concept dialog comes first for the equilibria, and for the enthalpy of vaporization only with
+// Benson's liquid density; other kinds open the page at once.
+TEST(RechnungStarten, EquilibriaGoThroughTheConceptDialog) {
+  Start t(6, 6);
+  for (int index : {5, 6, 8, 9})
+    EXPECT_EQ(t.Menue("mnuCalc", index), Schritte{"frmCalcIn"}) << index;
+  Start ohneBenson(6, 7);
+  EXPECT_EQ(ohneBenson.Menue("mnuCalc", 8), (Schritte{"frmQCalcOut", "frmParinput"}));
+  EXPECT_EQ(ohneBenson.Menue("mnuCalc_sub_database", 1), (Schritte{"frmQCalcOut", "frmParinput"}));
+  EXPECT_EQ(ohneBenson.s.Rechnung.ParinputModus, 114);
+  EXPECT_EQ(ohneBenson.Menue("mnuCalc", 13), Schritte{"Prozess"});
+  EXPECT_EQ(ohneBenson.s.RechenArt, 12);
+}
+
+// The vessel: GLOBAL opens the page and the value dialog for the vessel, PARTIAL first needs its
+// reference point; both bring the page forward afterwards.
+TEST(RechnungStarten, TheVesselByItsConcept) {
+  Start t(6);
+  EXPECT_EQ(t.Menue("mnuCalc", 15), (Schritte{"frmQCalcOut", "frmParinput", "nach vorne"}));
+  EXPECT_TRUE(t.s.Modell.RechnungGlobal);
+  EXPECT_EQ(t.s.Rechnung.ParinputModus, 33);
+  EXPECT_EQ(t.Menue("mnuCalc", 16), (Schritte{"frmCalcIn", "nach vorne"}));
+  EXPECT_FALSE(t.s.Modell.RechnungGlobal);
+  EXPECT_EQ(t.s.RechenArt, 10);
+}
+
+// Over the batch data nothing is asked and no value dialog opens; the page alone calculates.
+TEST(RechnungStarten, BatchModeOpensOnlyThePage) {
+  Start t(6);
+  t.s.Rechnung.StapelModus = true;
+  for (int index : {0, 2, 3, 11, 15, 16})
+    EXPECT_EQ(t.Menue("mnuCalc", index).front(), "frmQCalcOut") << index;
+  EXPECT_TRUE(t.ui.protokoll.empty());
+  EXPECT_FALSE(t.s.Rechnung.TpGleichgewicht);
+  EXPECT_EQ(t.Menue("mnuCalc", 5), Schritte{"frmCalcIn"});
+
+  // A page that closes at once gets no value dialog.
+  Start exit(6);
+  exit.fenster.ergebnisOeffnet = false;
+  EXPECT_EQ(exit.Menue("mnuCalc", 0), Schritte{"frmQCalcOut"});
+}
+
+// Without a kind set the start takes kind 1.
+TEST(RechnungStarten, NoKindMeansKindOne) {
+  Start t(6);
+  RechnungStarten(t.s, t.ui, t.fenster.Fenster());
+  EXPECT_EQ(t.s.RechenArt, 1);
+  EXPECT_EQ(t.s.Rechnung.ParinputModus, 101);
+  EXPECT_EQ(t.fenster.schritte, (Schritte{"frmQCalcOut", "frmParinput"}));
+}
+
+} // namespace
+} // namespace quor

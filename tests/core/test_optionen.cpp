@@ -1,0 +1,189 @@
+// The options dialog: what each control does to the project state on OK, the refusal of reduced
+// values without a critical temperature, the separators with their comma warnings, and nothing
+// taken over without OK.
+#include "core/optionen.h"
+#include "support/relativ.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <gtest/gtest.h>
+
+namespace quor {
+namespace {
+
+struct Optionen {
+  ProjectState s;
+  ui::SkriptOberflaeche ui;
+  std::unique_ptr<frmQOptions> dlg;
+
+  // Methane with a cubic model set up: critical point and critical volume known.
+  Optionen() {
+    InitProjectState(s);
+    s.Stoff.StoffName = "Methan";
+    s.Stoff.MolMasse = 16.043f;
+    s.Stoff.TKrit = 190.56;
+    s.Stoff.pKrit = 4599;
+    s.EOS.vKritEOS = 0.1234;
+    s.Optionen.DezimalKomma = false;
+    Oeffnen();
+  }
+  void Oeffnen() {
+    dlg = std::make_unique<frmQOptions>(s, ui);
+    dlg->Form_Load();
+  }
+};
+
+TEST(Optionen, SpecificAndMolarUnitsSetModesAndFactors) {
+  Optionen o;
+  EXPECT_EQ(o.dlg->optMolarSpez, 0);
+  o.dlg->optMolarSpez = 1;
+  o.dlg->cmdOK();
+  const EinheitenGruppe& e = o.s.Einheiten;
+  EXPECT_EQ(e.EnergieMode, 3);
+  EXPECT_EQ(e.VolumenMode, 1);
+  // Per kg: both factors are the reciprocal molar mass of methane.
+  EXPECT_REL(e.EnergieFaktor, 1 / 16.043, 1e-6);
+  EXPECT_REL(e.VolumenFaktor, 1 / 16.043, 1e-6);
+  EXPECT_EQ(e.vEinheit, " m^3/kg  ");
+
+  o.Oeffnen();
+  EXPECT_EQ(o.dlg->optMolarSpez, 1); // the dialog shows what is set
+  o.dlg->optMolarSpez = 0;
+  o.dlg->cmdOK();
+  EXPECT_EQ(e.EnergieMode, 0);
+  EXPECT_EQ(e.VolumenMode, 0);
+  EXPECT_EQ(e.EnergieFaktor, 1.0);
+  EXPECT_EQ(e.VolumenFaktor, 1.0);
+  EXPECT_TRUE(o.ui.protokoll.empty());
+}
+
+TEST(Optionen, ReducedValuesTakeTheCriticalPoint) {
+  Optionen o;
+  o.dlg->chkReduziert = true;
+  o.dlg->cmdOK();
+  const EinheitenGruppe& e = o.s.Einheiten;
+  EXPECT_EQ(e.VolumenMode, 2);
+  EXPECT_EQ(e.TVorgabe, static_cast<float>(190.56)); // an empty preset takes the critical temperature
+  EXPECT_REL(e.VolumenFaktor, 1 / 0.1234, 1e-12);
+  EXPECT_REL(e.TFaktor, 1 / 190.56, 1e-6);
+  EXPECT_REL(e.pFaktor, 1 / 4599.0, 1e-6);
+  EXPECT_EQ(e.TEinheit, " p(red)"); // the pressure's text lands beside the temperature
+  o.Oeffnen();
+  EXPECT_TRUE(o.dlg->chkReduziert);
+}
+
+TEST(Optionen, ReducedValuesWithoutCriticalTemperatureAreRefusedAndUnitsStay) {
+  Optionen o;
+  o.s.Stoff.TKrit = 0;
+  o.s.Einheiten.TVorgabe = 0;
+  o.dlg->chkReduziert = true;
+  o.dlg->cmdOK();
+  ASSERT_EQ(o.ui.Meldungen().size(), 1u);
+  EXPECT_EQ(o.ui.Letzte().text, "Für diesen Stoff fehlt die kritische Temperatur.");
+  EXPECT_EQ(o.ui.Letzte().titel, "Ausführung nicht möglich");
+  const EinheitenGruppe& e = o.s.Einheiten;
+  EXPECT_EQ(e.VolumenMode, 0);
+  EXPECT_EQ(e.VolumenFaktor, 1.0);
+  EXPECT_EQ(e.TFaktor, 1.0f);
+  EXPECT_EQ(e.TEinheit, " K");
+  EXPECT_EQ(e.TVorgabe, 0.0f);
+  EXPECT_FALSE(o.dlg->chkReduziert);
+}
+
+TEST(Optionen, BoxesModesAndPointCountAreTakenOverOnlyOnOK) {
+  Optionen o;
+  frmQOptions& d = *o.dlg;
+  d.chkUnloadGraph2D = false;
+  d.chkParSpeichern = true;
+  d.chkPartialKurve = true;
+  d.chkSKurveOhneKonnode = true;
+  d.chkCurveTpRestricted = false;
+  d.optKurvenMischen = 1;
+  d.OptCalcMode = 0;
+  d.Slider1_punktdichte = 1500;
+  d.cmbSepXY = 2;
+  // Closing without OK: nothing has changed.
+  const OptionenGruppe& opt = o.s.Optionen;
+  EXPECT_TRUE(opt.UnloadGraph2D);
+  EXPECT_EQ(opt.PunktDichte, 500);
+
+  d.cmdOK();
+  EXPECT_FALSE(opt.UnloadGraph2D);
+  EXPECT_TRUE(opt.ParSpeichern);
+  EXPECT_TRUE(opt.PartialKurve);
+  EXPECT_TRUE(opt.SKurveOhneKonnode);
+  EXPECT_FALSE(opt.KurveTpBeschraenkt);
+  EXPECT_TRUE(o.s.Zusatz.KurvenMischen);
+  EXPECT_TRUE(o.s.Rechnung.StapelModus);
+  EXPECT_EQ(opt.PunktDichte, 1500);
+  EXPECT_EQ(opt.XYTrenner, '\t'); // "Tab" is the tab character
+  EXPECT_EQ(opt.CsvTrenner, ';');
+
+  d.Slider1_punktdichte = 100000; // beyond the slider's end
+  d.cmbSepCSV = 2;
+  d.cmdOK();
+  EXPECT_EQ(opt.PunktDichte, frmQOptions::SliderMax);
+  EXPECT_EQ(opt.CsvTrenner, '\t');
+  o.Oeffnen();
+  EXPECT_EQ(o.dlg->cmbSepCSV, 2);
+  EXPECT_EQ(o.dlg->cmbSepXY, 2);
+  EXPECT_EQ(o.dlg->OptCalcMode, 0);
+  EXPECT_EQ(o.dlg->optKurvenMischen, 1);
+}
+
+TEST(Optionen, ChangedFactorsClearTheDiagramOnlyWithItsBox) {
+  Optionen o;
+  EXPECT_FALSE(o.dlg->cmdOK().Graph2DLoeschen); // nothing changed
+  o.dlg->optMolarSpez = 1;
+  EXPECT_TRUE(o.dlg->cmdOK().Graph2DLoeschen);
+  o.dlg->optMolarSpez = 0;
+  o.dlg->chkUnloadGraph2D = false;
+  EXPECT_FALSE(o.dlg->cmdOK().Graph2DLoeschen);
+}
+
+TEST(Optionen, CalculationModeRenamesTheFirstCalculationEntries) {
+  Optionen o;
+  o.dlg->OptCalcMode = 0;
+  const OptionenAktionen liste = o.dlg->cmdOK();
+  ASSERT_EQ(liste.CalcMenueTexte.size(), 4u);
+  EXPECT_EQ(liste.CalcMenueTexte[0],
+            (std::pair<int, std::string>{2, "Spalten T, p         => rho, Zustand L/V  + thermod. Fu."}));
+  EXPECT_EQ(liste.CalcMenueTexte[3],
+            (std::pair<int, std::string>{3, "Spalten p, rho(V) => T, Zustand L/V     + thermod. Fu."}));
+  o.dlg->OptCalcMode = 1;
+  const OptionenAktionen direkt = o.dlg->cmdOK();
+  EXPECT_FALSE(o.s.Rechnung.StapelModus);
+  EXPECT_EQ(direkt.CalcMenueTexte[0],
+            (std::pair<int, std::string>{2, "T, p         => rho, Zustand L/V  + thermod. Fu."}));
+  EXPECT_EQ(direkt.CalcMenueTexte[1],
+            (std::pair<int, std::string>{3, "p, rho      => T, Zustand L/V     + thermod. Fu."}));
+}
+
+TEST(Optionen, ACommaSeparatorIsQuestionedWhenTheSystemWritesDecimalCommas) {
+  Optionen o;
+  o.dlg->cmbSepCSV = 1;
+  o.dlg->cmbSepXY = 1;
+  o.dlg->cmdOK();
+  EXPECT_TRUE(o.ui.protokoll.empty()); // a point as decimal mark: the comma is fine
+  EXPECT_EQ(o.s.Optionen.CsvTrenner, ',');
+  EXPECT_EQ(o.s.Optionen.XYTrenner, ',');
+
+  o.s.Optionen.DezimalKomma = true;
+  o.ui.antworten = {ui::Antwort::Ja, ui::Antwort::Nein};
+  o.dlg->cmdOK();
+  ASSERT_EQ(o.ui.protokoll.size(), 2u);
+  EXPECT_EQ(o.ui.protokoll[0].text, "Bei Computereinstellung \"Deutschland\" (Dezimalzeichen = Komma)\r\n"
+                                    "ist das Komma als Dateitrennzeichen nicht sinnvoll.\r\n"
+                                    "Semikolon wählen?");
+  EXPECT_EQ(o.ui.protokoll[0].titel, "Warnung für CSV-File");
+  EXPECT_EQ(o.ui.protokoll[1].text, "Bei Computereinstellung \"Deutschland\" (Dezimalzeichen = Komma)\r\n"
+                                    "ist das Komma als Dateitrennzeichen nicht sinnvoll;\r\n"
+                                    "Clipboard-Inhalt und XY-Datei sind nicht mehr Excel-kompatibel.\r\n"
+                                    "unbedingte Empfehlung: Semikolon");
+  EXPECT_EQ(o.ui.protokoll[1].titel, "Warnung für XY-File");
+  EXPECT_EQ(o.s.Optionen.CsvTrenner, ';'); // "Ja" takes the semicolon
+  EXPECT_EQ(o.s.Optionen.XYTrenner, ',');  // "Nein" keeps the comma
+  EXPECT_EQ(o.dlg->cmbSepCSV, 0);
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,322 @@
+// Project files: every item written and read back, the layout of the text (booleans, empty comment,
+// free line breaks of the settings), the breaks of a damaged file, and the write routines with their
+// comment question, their directories and the save dialog.
+#include "core/datei_io.h"
+#include "core/projekt_datei.h"
+#include "core/text_kodierung.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace quor {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A state in which every item differs from its default.
+ProjectState Beispiel() {
+  ProjectState s;
+  InitProjectState(s);
+  s.Projekt.DateiKommentar = "Prüfstand 3, Methan";
+  s.Datenbank.DatenbankTyp = 7;
+  s.Datenbank.PfadQ07 = "QUOR.Q07";
+  s.Datenbank.PfadQ06 = "ALT.Q06";
+  s.Mess.BatchDateiPfad = "/messungen/methan_1998.BAQ";
+  s.Mess.ExpAnzahl = 17;
+  s.Stoff.CASRN = "74-82-8";
+  EinheitenGruppe& e = s.Einheiten;
+  e.TVorgabe = 150.5f;
+  e.pVorgabe = 3000.25f;
+  e.vVorgabe = 0.0987f;
+  e.EnergieFaktor = 1.0 / 8.31451;
+  e.VolumenMode = 2;
+  e.EnergieMode = 1;
+  OptionenGruppe& o = s.Optionen;
+  o.KurveTpBeschraenkt = false;
+  o.PunktDichte = 1234;
+  o.CsvTrenner = '\t';
+  o.ParSpeichern = true;
+  ModelSelection& m = s.Modell;
+  m.DampfdruckIndex = 7;
+  m.EOSIndex = 14;
+  m.CpIndex = 2;
+  m.HLVIndex = 4;
+  m.WatsonExp = 0.38f;
+  m.KonzeptGlobal = false;
+  ReferenzGruppe& r = s.Referenz;
+  r.RefArt = 10;
+  r.hRef = -1234.5678901234;
+  r.sRef = 98.76543210987;
+  r.TRef = 273.15f;
+  r.pRef = 101.325f;
+  s.Zusatz.ProzessStart1 = 350.125;
+  s.Zusatz.ProzessStart2 = 2500.5;
+  s.Zusatz.ProzessOption = 3;
+  s.Mess.FitSpalte = 4;
+  return s;
+}
+
+// Reads the text of a project into `s`: the six head lines and the settings.
+bool Lesen(const std::string& text, ProjectState& s, ProjektKopf& kopf, LeseFehler& fehler) {
+  ListenLeser leser(Utf8ZuWin1252(text));
+  return LeseKopfAnfang(leser, kopf, fehler) && LeseKopfRest(leser, kopf, fehler) &&
+         LeseEinstellungen(leser, s, fehler);
+}
+
+TEST(ProjektDatei, EveryItemComesBackAsItWasWritten) {
+  const ProjectState alt = Beispiel();
+  ProjectState neu;
+  InitProjectState(neu);
+  ProjektKopf kopf;
+  LeseFehler fehler;
+  ASSERT_TRUE(Lesen(ProjektText(alt, "01.02.2024 10:11:12"), neu, kopf, fehler)) << fehler.Grund;
+
+  EXPECT_EQ(kopf.Datum, "01.02.2024 10:11:12");
+  EXPECT_EQ(kopf.Kommentar, "Prüfstand 3, Methan");
+  EXPECT_EQ(kopf.Datenbank, "QUOR.Q07");
+  EXPECT_EQ(kopf.BatchDatei, "methan_1998.BAQ"); // the name without its directory
+  EXPECT_EQ(kopf.ExpAnzahl, 17);
+  EXPECT_EQ(kopf.CAS, "74-82-8     "); // the CAS field keeps its 12 characters
+
+  const EinheitenGruppe& e = neu.Einheiten;
+  EXPECT_EQ(e.TVorgabe, 150.5f);
+  EXPECT_EQ(e.pVorgabe, 3000.25f);
+  EXPECT_EQ(e.vVorgabe, 0.0987f);
+  EXPECT_EQ(e.EnergieFaktor, 1.0 / 8.31451); // doubles in their shortest exact text: no loss
+  EXPECT_EQ(e.VolumenMode, 2);
+  EXPECT_EQ(e.EnergieMode, 1);
+  const OptionenGruppe& o = neu.Optionen;
+  EXPECT_FALSE(o.KurveTpBeschraenkt);
+  EXPECT_EQ(o.PunktDichte, 1234);
+  EXPECT_EQ(o.CsvTrenner, '\t');
+  EXPECT_TRUE(o.ParSpeichern);
+  const ModelSelection& m = neu.Modell;
+  EXPECT_EQ(m.DampfdruckIndex, 7);
+  EXPECT_EQ(m.DampfdruckTag, "KFR");
+  EXPECT_EQ(m.EOSIndex, 14);
+  EXPECT_TRUE(m.VirialFlag);
+  EXPECT_EQ(m.CpIndex, 2);
+  EXPECT_EQ(m.HLVIndex, 4);
+  EXPECT_EQ(m.WatsonExp, 0.38f);
+  EXPECT_FALSE(m.KonzeptGlobal);
+  const ReferenzGruppe& r = neu.Referenz;
+  EXPECT_EQ(r.RefArt, 10);
+  EXPECT_EQ(r.hRef, -1234.5678901234);
+  EXPECT_EQ(r.sRef, 98.76543210987);
+  EXPECT_EQ(r.TRef, 273.15f);
+  EXPECT_EQ(r.pRef, 101.325f);
+  EXPECT_EQ(neu.Zusatz.ProzessStart1, 350.125);
+  EXPECT_EQ(neu.Zusatz.ProzessStart2, 2500.5);
+  EXPECT_EQ(neu.Zusatz.ProzessOption, 3);
+  EXPECT_EQ(neu.Mess.FitSpalte, 4);
+}
+
+TEST(ProjektDatei, BooleansAreMinusOneOrZeroAndTheTextIsCrLf) {
+  ProjectState s = Beispiel();
+  s.Projekt.DateiKommentar.clear();
+  const std::string text = ProjektText(s, "heute");
+  EXPECT_EQ(text.substr(0, 21), "heute\r\n<>\r\nQUOR.Q07\r\n"); // an empty comment is stored as "<>"
+  EXPECT_NE(text.find("\r\n0,1234\r\n\"\t\"\r\n"), std::string::npos) << text; // real-range box off
+  EXPECT_NE(text.find(",0.38,0\r\n"), std::string::npos) << text;              // PARTIAL concept
+  EXPECT_NE(text.find("\r\n4,-1\r\n0,0,0\r\n"), std::string::npos) << text;    // FitSpalte, box on, reserved
+  for (std::size_t i = text.find('\n'); i != std::string::npos; i = text.find('\n', i + 1))
+    EXPECT_EQ(text[i - 1], '\r');
+
+  ProjectState neu;
+  InitProjectState(neu);
+  neu.Projekt.DateiKommentar = "alt";
+  ProjektKopf kopf;
+  LeseFehler fehler;
+  ASSERT_TRUE(Lesen(text, neu, kopf, fehler));
+  EXPECT_EQ(kopf.Kommentar, KeinKommentar);
+}
+
+TEST(ProjektDatei, PresetsAreZeroWithoutManualNormalisation) {
+  ProjectState s = Beispiel();
+  s.Optionen.ParSpeichern = false;
+  const std::string text = ProjektText(s, "heute");
+  EXPECT_NE(text.find("74-82-8     \r\n0,0,0\r\n"), std::string::npos) << text;
+  ProjectState neu;
+  InitProjectState(neu);
+  neu.Einheiten.TVorgabe = 99;
+  ProjektKopf kopf;
+  LeseFehler fehler;
+  ASSERT_TRUE(Lesen(text, neu, kopf, fehler));
+  EXPECT_EQ(neu.Einheiten.TVorgabe, 0.0f); // taken over; the load fills it from the critical point
+  EXPECT_FALSE(neu.Optionen.ParSpeichern);
+}
+
+TEST(ProjektDatei, SettingsAreReadValueByValueWhateverTheLineBreaks) {
+  // An older file: every setting on a line of its own, booleans in both spellings, padded numbers.
+  std::string text = "12-24-1999\r\n<>\r\nC:\\QUOR\\QUOR.Q06\r\n\r\n 0 \r\n7732-18-5   \r\n";
+  for (const char* wert : {"0",  "0", "0", "1",     "1",       "3", "#TRUE#", "250",  "\",\"",  "4",
+                           "-1", "1", "1", "0.375", "#FALSE#", "2", "10.5",   "0.25", "298.15", "101.325",
+                           "0",  "0", "0", "1",     "0",       "0", "0",      "0"})
+    text += std::string(wert) + "\r\n";
+  ProjectState s;
+  InitProjectState(s);
+  ProjektKopf kopf;
+  LeseFehler fehler;
+  ASSERT_TRUE(Lesen(text, s, kopf, fehler)) << fehler.Grund << " " << fehler.Zeile;
+  EXPECT_EQ(DatenbankArtVonPfad(kopf.Datenbank), 6);
+  EXPECT_EQ(kopf.BatchDatei, "");
+  EXPECT_EQ(s.Einheiten.VolumenMode, 1);
+  EXPECT_EQ(s.Einheiten.EnergieMode, 3);
+  EXPECT_TRUE(s.Optionen.KurveTpBeschraenkt);
+  EXPECT_EQ(s.Optionen.CsvTrenner, ',');
+  EXPECT_EQ(s.Modell.DampfdruckIndex, 4);
+  EXPECT_EQ(s.Modell.DampfdruckTag, "WAG");
+  EXPECT_EQ(s.Modell.EOSIndex, 0); // "none" comes back as the ideal gas
+  EXPECT_EQ(s.Modell.WatsonExp, 0.375f);
+  EXPECT_FALSE(s.Modell.KonzeptGlobal);
+  EXPECT_EQ(s.Referenz.RefArt, 2);
+  EXPECT_EQ(s.Referenz.hRef, 10.5);
+}
+
+TEST(ProjektDatei, ValuesOutsideTheirTablesFallBackAndNoVapourPressureTagIsMarked) {
+  ProjectState s = Beispiel();
+  s.Modell.DampfdruckIndex = 0;
+  std::string text = ProjektText(s, "heute");
+  // Hand-edited indices beyond every table.
+  const std::size_t zeile = text.find("0,14,2,4,");
+  ASSERT_NE(zeile, std::string::npos);
+  text.replace(zeile, 9, "0,99,7,-3,");
+  ProjectState neu;
+  InitProjectState(neu);
+  ProjektKopf kopf;
+  LeseFehler fehler;
+  ASSERT_TRUE(Lesen(text, neu, kopf, fehler));
+  EXPECT_EQ(neu.Modell.DampfdruckTag, "<>");
+  EXPECT_EQ(neu.Modell.EOSIndex, 0);
+  EXPECT_EQ(neu.Modell.CpIndex, 0);
+  EXPECT_EQ(neu.Modell.HLVIndex, 0);
+}
+
+TEST(ProjektDatei, ABreakLeavesTheItemsBeforeItInPlace) {
+  const std::string ganz = ProjektText(Beispiel(), "heute");
+  // Cut right after item 19 (the concept), before the reference kind.
+  const std::size_t schnitt = ganz.find(",0.38,0\r\n") + 9;
+  ProjectState s;
+  InitProjectState(s);
+  ProjektKopf kopf;
+  LeseFehler fehler;
+  EXPECT_FALSE(Lesen(ganz.substr(0, schnitt), s, kopf, fehler));
+  EXPECT_EQ(fehler.Grund, "Einlesen hinter Dateiende");
+  EXPECT_EQ(s.Modell.EOSIndex, 14);     // read before the break
+  EXPECT_FALSE(s.Modell.KonzeptGlobal); // the last item read
+  EXPECT_EQ(s.Referenz.RefArt, 1);      // not reached: as before
+  EXPECT_EQ(s.Mess.FitSpalte, 1);
+
+  std::string falsch = ganz;
+  falsch.replace(falsch.find("1234"), 4, "viel");
+  InitProjectState(s);
+  EXPECT_FALSE(Lesen(falsch, s, kopf, fehler));
+  EXPECT_EQ(fehler.Grund, "Typen unverträglich");
+  EXPECT_EQ(fehler.Zeile, 10u);
+  EXPECT_FALSE(s.Optionen.KurveTpBeschraenkt); // the item before the bad one
+  EXPECT_EQ(s.Optionen.PunktDichte, 500);
+
+  // A head of fewer than three lines ends before the database.
+  ListenLeser kurz("nur\r\nzwei");
+  EXPECT_FALSE(LeseKopfAnfang(kurz, kopf, fehler));
+}
+
+TEST(ProjektDatei, DatabaseKindAndLastSessionAreReadFromTheNames) {
+  EXPECT_EQ(DatenbankArtVonPfad("/bank/QUOR.Q07"), 7);
+  EXPECT_EQ(DatenbankArtVonPfad("C:\\QUOR\\ALT.Q06 "), 6);
+  EXPECT_EQ(DatenbankArtVonPfad("/bank/QUOR.Q0X"), 0); // a letter: no kind
+  EXPECT_EQ(DatenbankArtVonPfad(""), 0);
+  EXPECT_TRUE(IstLetzteSitzung("/irgendwo/quorlastsession.qc6"));
+  EXPECT_TRUE(IstLetzteSitzung("QuorLastSession.QC6"));
+  EXPECT_FALSE(IstLetzteSitzung("LastSession.QC6"));
+  EXPECT_EQ(PfadIn("/projekte", "a.QC6"), "/projekte/a.QC6");
+  EXPECT_EQ(PfadIn("/projekte/", "a.QC6"), "/projekte/a.QC6");
+  EXPECT_EQ(PfadIn("/projekte", "C:\\alt\\a.QC6"), "C:\\alt\\a.QC6");
+  EXPECT_EQ(DateiTeil("/projekte/a.QC6"), "a.QC6");
+  EXPECT_EQ(VerzeichnisTeil("/projekte/a.QC6"), "/projekte");
+  EXPECT_EQ(VerzeichnisTeil("/a.QC6"), "/");
+  EXPECT_EQ(VerzeichnisTeil("a.QC6"), "");
+}
+
+class ProjektSchreibenTest : public ::testing::Test {
+protected:
+  void SetUp() override {
+    ordner = fs::temp_directory_path() /
+             ("quor_projekt_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    fs::remove_all(ordner);
+    fs::create_directories(ordner / "programm");
+    fs::create_directories(ordner / "projekte");
+    s = Beispiel();
+    s.Datenbank.ProgrammVerzeichnis = (ordner / "programm").string();
+    s.Projekt.ProjektVerzeichnis = (ordner / "projekte").string();
+  }
+  void TearDown() override { fs::remove_all(ordner); }
+
+  std::string Inhalt(const fs::path& p) {
+    std::string bytes;
+    LeseDateiBytes(p.string(), bytes);
+    return bytes;
+  }
+
+  fs::path ordner;
+  ProjectState s;
+  ui::SkriptOberflaeche ui;
+};
+
+TEST_F(ProjektSchreibenTest, LastSessionGoesToTheProgramDirectoryWithoutAQuestion) {
+  ASSERT_TRUE(ProjektSchreiben(s, "/anderswo/QUORLASTSESSION.QC6", ui));
+  EXPECT_TRUE(ui.protokoll.empty());
+  const std::string bytes = Inhalt(ordner / "programm" / "QuorLastSession.QC6");
+  EXPECT_NE(bytes.find("\r\nPr\xFC"
+                       "fstand 3, Methan\r\n"),
+            std::string::npos); // Windows-1252
+  EXPECT_FALSE(fs::exists("/anderswo/QUORLASTSESSION.QC6"));
+  EXPECT_EQ(bytes.substr(0, s.Projekt.ProjektDatum.size()), s.Projekt.ProjektDatum);
+}
+
+TEST_F(ProjektSchreibenTest, AProjectAsksForItsCommentAndABareNameGoesToTheProjectDirectory) {
+  ui.eingaben.push_back(std::string("neuer Kommentar"));
+  ASSERT_TRUE(ProjektSchreiben(s, "versuch.QC6", ui));
+  ASSERT_EQ(ui.protokoll.size(), 1u);
+  EXPECT_EQ(ui.protokoll[0].art, "Eingabe");
+  EXPECT_EQ(ui.protokoll[0].text, "<Abbrechen> = kein Kommentar");
+  EXPECT_EQ(ui.protokoll[0].titel, " Datei-Kommentar (optional) ");
+  EXPECT_EQ(s.Projekt.DateiKommentar, "neuer Kommentar");
+  EXPECT_NE(Inhalt(ordner / "projekte" / "versuch.QC6").find("\r\nneuer Kommentar\r\n"), std::string::npos);
+
+  ui.eingaben.push_back(std::nullopt); // <Abbrechen>: no comment
+  ASSERT_TRUE(ProjektSchreiben(s, "versuch.QC6", ui));
+  EXPECT_EQ(s.Projekt.DateiKommentar, "");
+  EXPECT_NE(Inhalt(ordner / "projekte" / "versuch.QC6").find("\r\n<>\r\n"), std::string::npos);
+}
+
+TEST_F(ProjektSchreibenTest, AFileThatCannotBeWrittenIsReported) {
+  ui.eingaben.push_back(std::string());
+  EXPECT_FALSE(ProjektSchreiben(s, (ordner / "fehlt" / "x.QC6").string(), ui));
+  ASSERT_EQ(ui.Meldungen().size(), 1u);
+  EXPECT_EQ(ui.Letzte().text.rfind("Meldung von Sub ProjektSchreiben:\r\nPfad/Datei-Zugriffsfehler", 0), 0u);
+}
+
+TEST_F(ProjektSchreibenTest, SaveAsOffersTheProjectAndKeepsTheChosenFile) {
+  s.Projekt.ProjektDatei = "alt.QC6";
+  EXPECT_FALSE(ProjektSpeichernUnter(s, ui)); // the empty queue cancels
+  ASSERT_EQ(ui.dateiDialoge.size(), 1u);
+  const ui::DateiDialog& d = ui.dateiDialoge[0];
+  EXPECT_EQ(d.titel, "aktuelles Projekt speichern unter ...");
+  EXPECT_EQ(d.filter, "QUOR-Projektdatei (*.QC6)|*.QC6");
+  EXPECT_EQ(d.standardEndung, ".QC6");
+  EXPECT_EQ(d.startVerzeichnis, (ordner / "projekte").string());
+  EXPECT_EQ(d.dateiName, "alt.QC6");
+
+  const fs::path ziel = ordner / "programm" / "neu.QC6";
+  ui.dateien.push_back(ziel.string());
+  ASSERT_TRUE(ProjektSpeichernUnter(s, ui));
+  EXPECT_TRUE(fs::exists(ziel));
+  EXPECT_EQ(s.Projekt.ProjektVerzeichnis, (ordner / "programm").string());
+  EXPECT_EQ(s.Projekt.ProjektDatei, "neu.QC6");
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,224 @@
+// The exchange with the parameter program: the input file for every vapour-pressure block, the
+// removal of an old result, the start of the program, and every way the set-up can fail.
+#include "core/datei_io.h"
+#include "engine/eos_parameter.h"
+#include "engine/varnik_ji.h"
+#include "engine/varnik_ji_hilfen.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <locale>
+
+namespace quor {
+namespace {
+
+using namespace quor::test::ji;
+
+const char* const NichtMoeglich = "Ausführung nicht möglich";
+const char* const KeinParameterfile = "Kein Parameterfile erzeugt.";
+const char* const SetupFehler = "Fehler bei der EOS-Parameterberechnung (Varnik-Ji-Modell)";
+
+std::string Golden(const std::string& tag) {
+  std::string bytes;
+  EXPECT_TRUE(LeseDateiBytes(std::string(QUOR_TESTDATEN) + "/ji/jipar_" + tag + ".tmp", bytes)) << tag;
+  return bytes;
+}
+
+// Runs the set-up of `s` with a child that only records what it finds in the program directory.
+struct Mitschnitt {
+  std::string jipar;          // jipar.tmp as the child sees it
+  bool altesErgebnis = false; // a parameter file of the model is there when the child starts
+  std::vector<ui::ProzessAuftrag> auftraege;
+};
+
+// `schreibt`: what the child leaves as parameter file (nullptr: nothing).
+Mitschnitt SetupMitAttrappe(ProjectState& s, ui::SkriptOberflaeche& ui, int16_t& err,
+                            const char* schreibt = nullptr) {
+  Mitschnitt m;
+  const std::string ergebnis = JiPfad(s, JiParameterDateiName(s.Modell.EOSIndex));
+  ui.prozessAusfuehren = [&](const ui::ProzessAuftrag& a) {
+    m.auftraege.push_back(a);
+    LeseDateiBytes(a.arbeitsVerzeichnis + "/jipar.tmp", m.jipar);
+    m.altesErgebnis = DateiExistiert(ergebnis);
+    if (schreibt != nullptr) SchreibeDateiBytes(ergebnis, schreibt);
+    ui::ProzessStatus st;
+    st.ergebnis = ui::ProzessErgebnis::Beendet;
+    st.exitCode = 0;
+    return st;
+  };
+  EOSParameterSetup(s, ui, s.Modell.EOSIndex, err);
+  return m;
+}
+
+// Writes the file of one tag the way the set-up does and returns it.
+std::string JiparFuer(const std::string& tag) {
+  JiVerzeichnis dir;
+  ProjectState s = MethanFuerJi(7, tag, dir.Pfad());
+  ui::SkriptOberflaeche ui;
+  int16_t err = 0;
+  return SetupMitAttrappe(s, ui, err).jipar;
+}
+
+// The golden files were checked line by line against the layout: model code, CAS number in 12
+// characters, the two block codes of the tag, the constants, the density block and the padded
+// vapour-pressure and Antoine blocks in ".00000000E+00".
+const char* const AlleTags[] = {"ALP", "AHP", "FRO", "WAG", "AUG", "KFW", "KFR", "THO", "000"};
+
+TEST(JiParDatei, MatchesTheGoldenFileForEveryTag) {
+  for (const char* tag : AlleTags)
+    EXPECT_EQ(JiparFuer(tag), Golden(tag)) << tag;
+}
+
+// The numbers keep their decimal point under a locale with a decimal comma: the C++ locale gets a
+// comma facet, the C library one of the German locales where the machine has one.
+struct KommaPunkt : std::numpunct<char> {
+  char do_decimal_point() const override { return ','; }
+  char do_thousands_sep() const override { return '.'; }
+};
+
+TEST(JiParDatei, KeepsTheDecimalPointUnderACommaLocale) {
+  const std::locale vorher = std::locale::global(std::locale(std::locale::classic(), new KommaPunkt));
+  const std::string cVorher = std::setlocale(LC_ALL, nullptr);
+  for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "de_DE@euro", "German"})
+    if (std::setlocale(LC_ALL, name) != nullptr) break;
+  for (const char* tag : {"FRO", "WAG"}) {
+    JiVerzeichnis dir;
+    ProjectState s = MethanFuerJi(7, tag, dir.Pfad());
+    s.Optionen.DezimalKomma = true;
+    ui::SkriptOberflaeche ui;
+    int16_t err = 0;
+    EXPECT_EQ(SetupMitAttrappe(s, ui, err).jipar, Golden(tag)) << tag;
+  }
+  std::setlocale(LC_ALL, cVorher.c_str());
+  std::locale::global(vorher);
+}
+
+// Model II differs in the model code of line 1 only.
+TEST(JiParDatei, ModelTwoHasCodeEleven) {
+  JiVerzeichnis dir;
+  ProjectState s = MethanFuerJi(8, "FRO", dir.Pfad());
+  std::string erwartet = Golden("FRO");
+  erwartet.replace(0, 2, "11");
+  EXPECT_EQ(JiParDateiBytes(s), erwartet);
+}
+
+// An old result (here a perfectly readable one from another substance) is deleted before the
+// program starts, so a program that writes nothing ends in the messages, not in the old set. The
+// program is started from the program directory, hidden, without arguments, for 100 s at most.
+TEST(JiSetup, OldParameterFileIsGoneBeforeTheStart) {
+  for (int16_t modell : {7, 8}) {
+    JiVerzeichnis dir;
+    ProjectState s = MethanFuerJi(modell, "FRO", dir.Pfad());
+    const std::string alt = dir.Datei(JiParameterDateiName(modell));
+    ASSERT_TRUE(SchreibeDateiBytes(alt, "50\r\n0.01\r\n0.7\r\n0.1\r\n0.05\r\n0.29\r\n0.2\r\n"));
+    ui::SkriptOberflaeche ui;
+    int16_t err = 0;
+    const Mitschnitt m = SetupMitAttrappe(s, ui, err);
+    EXPECT_FALSE(m.altesErgebnis) << modell;
+    ASSERT_EQ(m.auftraege.size(), 1u);
+    const ui::ProzessAuftrag& a = m.auftraege[0];
+    EXPECT_EQ(a.programm, dir.Datei("cubpar"));
+    EXPECT_TRUE(a.argumente.empty());
+    EXPECT_EQ(a.arbeitsVerzeichnis, dir.Pfad());
+    EXPECT_TRUE(a.versteckt);
+    EXPECT_EQ(a.wartenMs, 100000);
+    EXPECT_GT(err, 0);
+    EXPECT_EQ(s.EOS.vKritEOS, 0.0);
+    const auto meldungen = ui.Meldungen();
+    ASSERT_EQ(meldungen.size(), 2u);
+    EXPECT_EQ(meldungen[0].text, KeinParameterfile);
+    EXPECT_EQ(meldungen[1].text, SetupFehler);
+  }
+}
+
+// A program directory without cubpar: the start fails and the set-up ends in both messages.
+TEST(JiSetup, MissingProgramEndsInBothMessages) {
+  JiVerzeichnis dir;
+  ProjectState s = MethanFuerJi(7, "FRO", dir.Pfad());
+  ui::SkriptOberflaeche ui = EchteProzesse();
+  int16_t err = 0;
+  EOSParameterSetup(s, ui, 7, err);
+  EXPECT_GT(err, 0);
+  EXPECT_EQ(s.EOS.vKritEOS, 0.0);
+  EXPECT_EQ(s.EOS.rhoKritEOS, 0.0);
+  const auto m = ui.Meldungen();
+  ASSERT_EQ(m.size(), 2u);
+  EXPECT_EQ(m[0].text, KeinParameterfile);
+  EXPECT_EQ(m[0].titel, NichtMoeglich);
+  EXPECT_EQ(m[1].text, SetupFehler);
+  EXPECT_EQ(m[1].titel, NichtMoeglich);
+  EXPECT_TRUE(DateiExistiert(dir.Datei("jipar.tmp")));
+}
+
+// Parameter files that cannot be read: the reading routine names itself and the reason, then the
+// set-up adds its own message; JiParameter keeps what it held.
+TEST(JiSetup, UnreadableParameterFileEndsInItsMessages) {
+  struct Fall {
+    int16_t modell;
+    const char* inhalt;
+    const char* grund;
+  };
+  const Fall faelle[] = {
+      {7, "50\r\n0.01\r\n0.7\r\n", "Einlesen hinter Dateiende"},
+      {7, "50, 0.01, 0.7, 0.1, Zc\r\n0.29\r\n", "Typen unverträglich"},
+      {7, "", "Einlesen hinter Dateiende"},
+      // Model II needs JiB2 behind the five values of model I.
+      {8, "50\r\n0.01\r\n0.7\r\n0.1\r\n0.05\r\n0.29\r\n", "Einlesen hinter Dateiende"},
+  };
+  for (const Fall& f : faelle) {
+    JiVerzeichnis dir;
+    ProjectState s = MethanFuerJi(f.modell, "FRO", dir.Pfad());
+    s.EOS.JiParameter[JiM] = 0.123;
+    ui::SkriptOberflaeche ui;
+    int16_t err = 0;
+    SetupMitAttrappe(s, ui, err, f.inhalt);
+    EXPECT_GT(err, 0) << f.inhalt;
+    EXPECT_EQ(s.EOS.JiParameter[JiM], 0.123);
+    const auto m = ui.Meldungen();
+    ASSERT_EQ(m.size(), 2u) << f.inhalt;
+    EXPECT_EQ(m[0].text, std::string("Meldung von Sub Daten_Ji\r\n") + f.grund) << f.inhalt;
+    EXPECT_EQ(m[1].text, SetupFehler);
+  }
+}
+
+// The values are read one after the other whatever the line breaks, in the order count, unused,
+// JiM, JiN, JiP, JiZc (, JiB2); a name without a directory is found in the program directory.
+TEST(Daten_Ji, ReadsTheValuesInTheirOrderWhateverTheLineBreaks) {
+  JiVerzeichnis dir;
+  ProjectState s = MethanFuerJi(7, "FRO", dir.Pfad());
+  ASSERT_TRUE(
+      SchreibeDateiBytes(dir.Datei("PARAM_JI.DAT"), "42, 1.5E-3 0.61\r\n-0.25\r\n\r\n3.5e-2,0.297\r\n"));
+  ui::SkriptOberflaeche ui;
+  int16_t err = 0;
+  std::array<double, 9> J{};
+  J[JiB2] = 9;
+  Daten_Ji(s, ui, "PARAM_JI.DAT", J, err);
+  EXPECT_EQ(err, 0);
+  EXPECT_TRUE(ui.Meldungen().empty());
+  EXPECT_EQ(J[JiM], 0.61);
+  EXPECT_EQ(J[JiN], -0.25);
+  EXPECT_EQ(J[JiP], 0.035);
+  EXPECT_EQ(J[JiZc], 0.297);
+  EXPECT_EQ(J[JiB2], 0.0);
+  // Model II, the same numbers with JiB2 behind, given by its full name.
+  s.Modell.EOSIndex = 8;
+  ASSERT_TRUE(SchreibeDateiBytes(dir.Datei("zwei.dat"), "42 1.5E-3 0.61 -0.25 3.5e-2 0.297 0.125"));
+  Daten_Ji(s, ui, dir.Datei("zwei.dat"), J, err);
+  EXPECT_EQ(err, 0);
+  EXPECT_EQ(J[JiZc], 0.297);
+  EXPECT_EQ(J[JiB2], 0.125);
+}
+
+TEST(JiPfad, NamesWithoutDirectoryLieInTheProgramDirectory) {
+  ProjectState s;
+  s.Datenbank.ProgrammVerzeichnis = "/opt/quor";
+  EXPECT_EQ(JiPfad(s, "PARAM_JI.DAT"), "/opt/quor/PARAM_JI.DAT");
+  EXPECT_EQ(JiPfad(s, "/srv/daten/x.dat"), "/srv/daten/x.dat");
+  EXPECT_EQ(JiPfad(s, "C:\\QUOR\\x.dat"), "C:\\QUOR\\x.dat");
+  s.Datenbank.ProgrammVerzeichnis.clear();
+  EXPECT_EQ(JiPfad(s, "jipar.tmp"), "jipar.tmp");
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,194 @@
+// The parameter program cubpar as the set-up runs it: its result reaches JiParameter unchanged, the
+// fitted model follows the substance's equations whichever vapour-pressure block it is given, it
+// fails without writing when it has nothing to fit, and a whole calculation works afterwards.
+#include "core/datei_io.h"
+#include "engine/eos_auswertung.h"
+#include "engine/eos_parameter.h"
+#include "engine/kalorik.h"
+#include "engine/korrelationen.h"
+#include "engine/saettigung.h"
+#include "engine/varnik_ji.h"
+#include "engine/varnik_ji_hilfen.h"
+#include "engine/zustand.h"
+#include "support/relativ.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <sstream>
+
+namespace quor {
+namespace {
+
+using namespace quor::test::ji;
+
+// The numbers of a parameter file, read here with the C library, independently of the program.
+std::vector<double> Zahlen(const std::string& datei) {
+  std::string bytes;
+  LeseDateiBytes(datei, bytes);
+  for (char& c : bytes)
+    if (c == ',') c = ' ';
+  std::istringstream ein(bytes);
+  std::vector<double> z;
+  std::string wort;
+  while (ein >> wort)
+    z.push_back(std::strtod(wort.c_str(), nullptr));
+  return z;
+}
+
+// Methane set up for model `modell` with the parameter program really run.
+ProjectState Eingerichtet(int16_t modell, const std::string& tag, const JiVerzeichnis& dir, int16_t& err,
+                          ui::SkriptOberflaeche& ui) {
+  StelleCubparBereit(dir.Pfad());
+  ProjectState s = MethanFuerJi(modell, tag, dir.Pfad());
+  err = 0;
+  EOSParameterSetup(s, ui, modell, err);
+  return s;
+}
+
+TEST(Cubpar, ItsParameterFileIsReadBackIntoJiParameter) {
+  for (int16_t modell : {7, 8}) {
+    JiVerzeichnis dir;
+    ui::SkriptOberflaeche ui = EchteProzesse();
+    int16_t err = 0;
+    ProjectState s = Eingerichtet(modell, "FRO", dir, err, ui);
+    ASSERT_EQ(err, 0) << modell;
+    EXPECT_TRUE(ui.Meldungen().empty());
+    const std::vector<double> z = Zahlen(dir.Datei(JiParameterDateiName(modell)));
+    ASSERT_EQ(z.size(), modell == 8 ? 7u : 6u);
+    EXPECT_EQ(z[0], 50); // 25 vapour pressures and 25 liquid densities of methane
+    const auto& J = s.EOS.JiParameter;
+    EXPECT_EQ(J[JiM], z[2]);
+    EXPECT_EQ(J[JiN], z[3]);
+    EXPECT_EQ(J[JiP], z[4]);
+    EXPECT_EQ(J[JiZc], z[5]);
+    EXPECT_EQ(J[JiB2], modell == 8 ? z[6] : 0.0);
+    // The set-up turned JiZc into the critical volume.
+    EXPECT_REL(s.EOS.vKritEOS, J[JiZc] * RGas * 190.56 / 4599, 1e-14);
+    EXPECT_REL(s.EOS.rhoKritEOS, s.Stoff.MolMasse / s.EOS.vKritEOS, 1e-14);
+  }
+}
+
+// Largest relative deviations of the program's saturation pressure and liquid density from the
+// substance's equations, at 40 temperatures of the range the fit covers.
+struct Abweichung {
+  double druck = 0, dichte = 0;
+};
+
+Abweichung Groesste(ProjectState& s, double von, double bis) {
+  Abweichung a;
+  for (int i = 0; i <= 40; ++i) {
+    const double T = von + (bis - von) * i / 40;
+    double imbalance = 0, A = 0, B = 0;
+    int16_t err = 0, fehler = 0;
+    const double p = pLVbeiT(s, T, imbalance, A, B, err);
+    const double rhoL = s.Stoff.MolMasse / s.EOS.VRoots[0];
+    if (err != 0) return {INFINITY, INFINITY};
+    const int index = s.Modell.DampfdruckIndex > 0 ? s.Modell.DampfdruckIndex : int{AntoineNiederdruck};
+    a.druck = std::max(a.druck, std::fabs(p / pLV(s, T, index, false, fehler) - 1));
+    a.dichte = std::max(a.dichte, std::fabs(rhoL / RhoL(s, T, false, fehler) - 1));
+  }
+  return a;
+}
+
+// Every kind of block in line 6 is read: the Antoine blocks in both forms, Frost/Kalkwarf from the
+// database and correlated with its own exponent, Wagner, August; without a tag the low-pressure
+// Antoine block of line 7 stands in. Ranges: the block's limits within 0.45 to 0.96 TKrit (THO and
+// the Antoine forms end at their upper limits 111 to 181 K), densities from 91 K.
+TEST(Cubpar, FittedModelFollowsTheSubstanceEquationsOfEveryBlock) {
+  struct Fall {
+    const char* tag;
+    double von, bis;
+  };
+  const Fall faelle[] = {{"FRO", 91, 182.9}, {"WAG", 91, 182.9}, {"AUG", 111.66, 182.9}, {"AHP", 112, 181},
+                         {"KFW", 91, 182.9}, {"KFR", 91, 182.9}, {"THO", 91, 111.66},    {"000", 91, 111}};
+  for (const Fall& f : faelle) {
+    JiVerzeichnis dir;
+    ui::SkriptOberflaeche ui = EchteProzesse();
+    int16_t err = 0;
+    ProjectState s = Eingerichtet(7, f.tag, dir, err, ui);
+    ASSERT_EQ(err, 0) << f.tag;
+    const Abweichung a = Groesste(s, f.von, f.bis);
+    EXPECT_LT(a.druck, 0.01) << f.tag;
+    EXPECT_LT(a.dichte, 0.05) << f.tag;
+  }
+}
+
+// With no vapour-pressure data at all (no tag and an empty Antoine block) the program has nothing
+// to fit and writes nothing; an input it cannot read ends it the same way.
+TEST(Cubpar, WritesNothingWhenItHasNothingToFit) {
+  JiVerzeichnis dir;
+  StelleCubparBereit(dir.Pfad());
+  ProjectState s = MethanFuerJi(7, "000", dir.Pfad());
+  s.Stoff.AntoineNd = {0, 0, 0};
+  s.Stoff.AntoineNdGrenzen = {0, 0};
+  ui::SkriptOberflaeche ui = EchteProzesse();
+  int16_t err = 0;
+  EOSParameterSetup(s, ui, 7, err);
+  EXPECT_GT(err, 0);
+  const auto m = ui.Meldungen();
+  ASSERT_EQ(m.size(), 2u);
+  EXPECT_EQ(m[0].text, "Kein Parameterfile erzeugt.");
+
+  for (const char* eingabe :
+       {"10\r\n\"74-82-8     \"\r\n0,2\r\n", "Unsinn", "12\r\n\"x\"\r\n0,0\r\n1,1,1,1,1,1\r\n"}) {
+    ASSERT_TRUE(SchreibeDateiBytes(dir.Datei("jipar.tmp"), eingabe));
+    ui::ProzessAuftrag a;
+    a.programm = dir.Datei("cubpar");
+    a.arbeitsVerzeichnis = dir.Pfad();
+    const ui::ProzessStatus st = StarteEcht(a);
+    EXPECT_EQ(st.ergebnis, ui::ProzessErgebnis::Beendet);
+    EXPECT_EQ(st.exitCode, 2) << eingabe;
+    EXPECT_FALSE(DateiExistiert(dir.Datei("PARAM_JI.DAT"))) << eingabe;
+  }
+}
+
+// A calculation with the fitted models from end to end: single-phase states on both sides of the
+// saturation line, T -> p(LV) -> T, equal fugacities of the saturated phases, and Clapeyron's
+// equation dp/dT = (h(V) - h(L))/(T*(v(V) - v(L))), which holds exactly for an equal-area
+// saturation line; dp/dT here by a central difference of the program's p(LV) over +-0.5 K.
+TEST(VarnikJi, FullCalculationAfterTheSetUp) {
+  for (int16_t modell : {7, 8}) {
+    JiVerzeichnis dir;
+    ui::SkriptOberflaeche ui = EchteProzesse();
+    int16_t err = 0;
+    ProjectState s = Eingerichtet(modell, "FRO", dir, err, ui);
+    ASSERT_EQ(err, 0) << modell;
+    const double T = 140;
+    double imbalance = 0, A = 0, B = 0;
+    const double p = pLVbeiT(s, T, imbalance, A, B, err);
+    ASSERT_EQ(err, 0);
+    const double vL = s.EOS.VRoots[0], vV = s.EOS.VRoots[2];
+
+    bool istL = false, istV = false;
+    double rhoV = 0, rhoL = 0, v1 = 0, v2 = 0;
+    int16_t n = 0;
+    std::string meldung;
+    VzuTP(s, T, 2 * p, s.EOS.Gebiet, istL, istV, rhoV, rhoL, v1, v2, n, imbalance, A, B, meldung, err);
+    EXPECT_TRUE(istL && !istV) << modell;
+    istL = istV = false;
+    VzuTP(s, T, 0.5 * p, s.EOS.Gebiet, istL, istV, rhoV, rhoL, v1, v2, n, imbalance, A, B, meldung, err);
+    EXPECT_TRUE(istV && !istL) << modell;
+
+    double TStart = 0;
+    EXPECT_REL(TLVbeiP(s, p, imbalance, A, B, TStart, err), T, 1e-4);
+    EXPECT_EQ(err, 0);
+
+    Abl1Tabelle abl1{};
+    Abl2Tabelle abl2{};
+    ResFunkTabelle res{};
+    PhiFunktionen(s, 0, T, p, vL, abl1, abl2, res, err);
+    ASSERT_EQ(err, 0);
+    PhiFunktionen(s, 1, T, p, vV, abl1, abl2, res, err);
+    ASSERT_EQ(err, 0);
+    EXPECT_NEAR(res[0][0], res[1][0], 1e-4); // ln phi; the saturation search stops at an imbalance of 1e-5
+    const double hLV = RGas * (res[1][4] - res[0][4]);
+    const double pPlus = pLVbeiT(s, T + 0.5, imbalance, A, B, err);
+    const double pMinus = pLVbeiT(s, T - 0.5, imbalance, A, B, err);
+    EXPECT_REL(hLV, T * (vV - vL) * (pPlus - pMinus), 2e-3) << modell;
+  }
+}
+
+} // namespace
+} // namespace quor

@@ -1,0 +1,139 @@
+// What the Varnik/Ji tests share: a scratch program directory, a starter that runs the child process
+// for real behind the scripted user interface, and methane with every vapour-pressure block filled.
+#pragma once
+
+#include "core/project_state.h"
+#include "engine/korrelationen.h"
+#include "ui/skript_oberflaeche.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+// In a namespace of their own: the test programs link helpers of other folders with like names.
+namespace quor::test::ji {
+
+// A fresh directory below the system's temporary folder, removed with everything in it at the end.
+class JiVerzeichnis {
+public:
+  JiVerzeichnis() {
+    std::string muster = (std::filesystem::temp_directory_path() / "quor_ji_XXXXXX").string();
+    if (mkdtemp(muster.data()) != nullptr) pfad_ = muster;
+  }
+  ~JiVerzeichnis() {
+    std::error_code ec;
+    if (!pfad_.empty()) std::filesystem::remove_all(pfad_, ec);
+  }
+  JiVerzeichnis(const JiVerzeichnis&) = delete;
+  JiVerzeichnis& operator=(const JiVerzeichnis&) = delete;
+
+  const std::string& Pfad() const { return pfad_; }
+  std::string Datei(const std::string& name) const { return pfad_ + "/" + name; }
+
+private:
+  std::string pfad_;
+};
+
+// Runs the program of the order in its working directory, without arguments, its output discarded,
+// and waits for its end. A program that isn't there (or can't be run) doesn't start.
+inline ui::ProzessStatus StarteEcht(const ui::ProzessAuftrag& auftrag) {
+  ui::ProzessStatus status;
+  if (access(auftrag.programm.c_str(), X_OK) != 0) return status;
+  const pid_t kind = fork();
+  if (kind < 0) return status;
+  if (kind == 0) {
+    const int nichts = open("/dev/null", O_WRONLY);
+    if (nichts >= 0) {
+      dup2(nichts, STDOUT_FILENO);
+      dup2(nichts, STDERR_FILENO);
+    }
+    if (chdir(auftrag.arbeitsVerzeichnis.c_str()) != 0) _exit(126);
+    execl(auftrag.programm.c_str(), auftrag.programm.c_str(), static_cast<char*>(nullptr));
+    _exit(127);
+  }
+  int ende = 0;
+  if (waitpid(kind, &ende, 0) != kind) return status;
+  status.ergebnis = ui::ProzessErgebnis::Beendet;
+  status.exitCode = WIFEXITED(ende) ? WEXITSTATUS(ende) : -1;
+  return status;
+}
+
+// The parameter program as the build puts it into the program directory.
+inline std::string CubparProgramm() {
+  return std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/cubpar";
+}
+
+// Makes `verzeichnis` a program directory with the built cubpar in it.
+inline void StelleCubparBereit(const std::string& verzeichnis) {
+  std::error_code ec;
+  std::filesystem::create_symlink(CubparProgramm(), verzeichnis + "/cubpar", ec);
+}
+
+// A user interface whose child processes really run.
+inline ui::SkriptOberflaeche EchteProzesse() {
+  ui::SkriptOberflaeche ui;
+  ui.prozessAusfuehren = StarteEcht;
+  return ui;
+}
+
+// Methane with the blocks of the default database; the correlated sets (August, Frost/Kalkwarf with
+// the van der Waals and the Redlich/Kwong term, Thompson's Antoine) computed from Tc = 190.56 K,
+// pc = 4599 kPa, Tb = 111.66 K by the correlations' own formulas.
+inline void SetzeTestMethan(ProjectState& s) {
+  StoffGruppe& st = s.Stoff;
+  st.StoffName = "Methan";
+  st.CASRN = "74-82-8";
+  st.MolMasse = 16.0425f;
+  st.TKrit = 190.56;
+  st.pKrit = 4599;
+  st.rhoKritExp = 162.70244;
+  st.vKritExp = st.MolMasse / st.rhoKritExp;
+  st.omega = 0.011;
+  st.TSiede = 111.66f;
+  st.TTripel = 90.694f;
+  st.RhoL = {0, 30.384418f, 0.23603f, 0.21974f, 0, 0, 0};
+  st.RhoLTcr = 191.05f;
+  st.RhoLGrenzen = {91, 190};
+  st.FrostKalkwarf = {14.366759f, -580.78546f, 273.15f, -3.580049f, 0, 0, 0, 1.3927737e-05f, 2};
+  st.FrostKalkwarfGrenzen = {84, 190};
+  st.AntoineNd = {5.739851f, 389.58615f, 265.86945f};
+  st.AntoineNdGrenzen = {91, 111};
+  st.AntoineHd = {6.0707946f, 470.87936f, 277.44485f};
+  st.AntoineHdGrenzen = {112, 181};
+  st.Wagner = {-6.02242f, 1.26652f, -0.5707f, 2.5f, -1.366f, 5, 0, 0, 190.551f, 4599.2f};
+  st.WagnerGrenzen = {91, 190};
+  double A = 0, B = 0;
+  AugustParameter(st.TKrit, st.pKrit, st.TSiede, A, B);
+  st.AugustA = static_cast<float>(A);
+  st.AugustB = static_cast<float>(B);
+  st.KFW = {12.693039f, -571.2733f, 0, -2.7261584f, 1.4466658f, 2, 0, 0, 0};
+  st.KFR = {12.714855f, -572.1787f, 0, -2.7347106f, 20.235577f, 2.5f, 0, 0, 0};
+  st.THO = {5.9400643f, 426.65876f, 269.9346f};
+}
+
+// Row of the vapour-pressure table of a tag (0 for none).
+inline int16_t DampfdruckIndexVon(const std::string& tag) {
+  for (int16_t i = 1; i <= 8; ++i)
+    if (DampfdruckTagVon(i) == tag) return i;
+  return 0;
+}
+
+// A state with methane, the vapour-pressure equation `tag`, the Varnik/Ji model `EOSIndex` and the
+// program directory `verzeichnis`, before the set-up.
+inline ProjectState MethanFuerJi(int16_t EOSIndex, const std::string& tag, const std::string& verzeichnis) {
+  ProjectState s;
+  InitProjectState(s);
+  SetzeTestMethan(s);
+  s.Modell.EOSIndex = EOSIndex;
+  s.Modell.VirialFlag = false;
+  s.Modell.DampfdruckTag = tag;
+  s.Modell.DampfdruckIndex = DampfdruckIndexVon(tag);
+  s.Datenbank.ProgrammVerzeichnis = verzeichnis;
+  return s;
+}
+
+} // namespace quor::test::ji

@@ -1,0 +1,108 @@
+// Quality of the Varnik/Ji sets that cubpar fits, on substances of the default database of very
+// different character: a small nonpolar molecule, a light hydrocarbon, a strongly polar associating
+// liquid and an aromatic. Model I must reproduce the substance's vapour-pressure equation within 1 %
+// and its liquid density function within 5 % over the fitted range, model II at least as well.
+#include "../tools/cubpar/saettigungsdaten.h"
+#include "engine/eos_parameter.h"
+#include "engine/korrelationen.h"
+#include "engine/saettigung.h"
+#include "engine/varnik_ji.h"
+#include "engine/varnik_ji_hilfen.h"
+#include "substance/datenbank.h"
+#include "substance/stoff_laden.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quor {
+namespace {
+
+using namespace quor::test::ji;
+
+ProjectState MitStoff(const std::string& cas) {
+  ProjectState s;
+  InitProjectState(s);
+  int16_t failed = 0;
+  bool leer = false;
+  LadeDatenbank(s, 7, std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/QUOR.Q07", failed, leer);
+  EXPECT_EQ(failed, 0);
+  for (int k = 1; k <= s.Datenbank.StoffAnzahl; ++k)
+    if (s.Datenbank.CASListe[k] == cas) LadeStoff(s, k, failed);
+  EXPECT_EQ(s.Stoff.CASRN, cas);
+  s.Modell.DampfdruckIndex = DampfdruckIndexVon(s.Modell.DampfdruckTag);
+  return s;
+}
+
+// The fitted range: 0.45 to 0.96 TKrit within the limits of the function.
+void Bereich(const ProjectState& s, const TGrenzen& g, double& von, double& bis) {
+  von = std::max(cubpar::TrMin * s.Stoff.TKrit, static_cast<double>(g.TLo));
+  bis = std::min(cubpar::TrMax * s.Stoff.TKrit, g.THi > 0 ? static_cast<double>(g.THi) : 1e9);
+}
+
+TGrenzen DampfdruckGrenzen(const ProjectState& s) {
+  switch (s.Modell.DampfdruckIndex) {
+  case FrostKalkwarfDB:
+    return s.Stoff.FrostKalkwarfGrenzen;
+  case WagnerDB:
+    return s.Stoff.WagnerGrenzen;
+  case AntoineNiederdruck:
+    return s.Stoff.AntoineNdGrenzen;
+  case AntoineHochdruck:
+    return s.Stoff.AntoineHdGrenzen;
+  default:
+    return {};
+  }
+}
+
+// Largest relative deviation of the program's own saturation pressure (or liquid density, the
+// smallest root at saturation) from the substance's function, at 50 temperatures of the range.
+double Groesste(ProjectState& s, bool dichte) {
+  double von = 0, bis = 0;
+  Bereich(s, dichte ? s.Stoff.RhoLGrenzen : DampfdruckGrenzen(s), von, bis);
+  double maximum = 0;
+  for (int i = 0; i <= 50; ++i) {
+    const double T = von + (bis - von) * i / 50;
+    double imbalance = 0, A = 0, B = 0;
+    int16_t err = 0, fehler = 0;
+    const double p = pLVbeiT(s, T, imbalance, A, B, err);
+    if (err != 0) return INFINITY;
+    const double ist = dichte ? s.Stoff.MolMasse / s.EOS.VRoots[0] : p;
+    const double soll =
+        dichte ? RhoL(s, T, false, fehler) : pLV(s, T, s.Modell.DampfdruckIndex, false, fehler);
+    maximum = std::max(maximum, std::fabs(ist / soll - 1));
+  }
+  return maximum;
+}
+
+class JiGuete : public ::testing::TestWithParam<const char*> {};
+
+TEST_P(JiGuete, FitFollowsVapourPressureAndLiquidDensity) {
+  double skaliert[2] = {0, 0};
+  for (int16_t modell : {7, 8}) {
+    JiVerzeichnis dir;
+    StelleCubparBereit(dir.Pfad());
+    ProjectState s = MitStoff(GetParam());
+    s.Datenbank.ProgrammVerzeichnis = dir.Pfad();
+    s.Modell.EOSIndex = modell;
+    ui::SkriptOberflaeche ui = EchteProzesse();
+    int16_t err = 0;
+    EOSParameterSetup(s, ui, modell, err);
+    ASSERT_EQ(err, 0) << s.Stoff.StoffName << " " << modell;
+    const double druck = Groesste(s, false), dichte = Groesste(s, true);
+    EXPECT_LT(druck, 0.01) << s.Stoff.StoffName << " " << modell;
+    EXPECT_LT(dichte, 0.05) << s.Stoff.StoffName << " " << modell;
+    // Measured against each limit, the larger share; model II contains model I (JiB2 = 0).
+    skaliert[modell - 7] = std::max(druck / 0.01, dichte / 0.05);
+  }
+  // The program's saturation search stops at an imbalance of 1e-5: a little noise on top.
+  EXPECT_LE(skaliert[1], skaliert[0] * 1.01 + 1e-3) << GetParam();
+}
+
+// Methane, propane, water, benzene.
+INSTANTIATE_TEST_SUITE_P(Standarddatenbank, JiGuete,
+                         ::testing::Values("74-82-8", "74-98-6", "7732-18-5", "71-43-2"));
+
+} // namespace
+} // namespace quor
