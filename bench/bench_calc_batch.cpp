@@ -7,34 +7,19 @@
 #include "engine/eos_parameter.h"
 #include "ui/skript_oberflaeche.h"
 
+#include "bench_stoffe.h"
+
 #include <benchmark/benchmark.h>
 
 namespace {
 
 using namespace quor;
 
-ProjectState Methan() {
-  ProjectState s;
-  InitProjectState(s);
-  s.Stoff.StoffName = "Methan";
-  s.Stoff.MolMasse = 16.043f;
-  s.Stoff.TSiede = 111.66f;
-  s.Stoff.TKrit = 190.564;
-  s.Stoff.pKrit = 4599.2;
-  s.Stoff.omega = 0.0114;
-  s.Stoff.CpPoly = {37.980f, -0.074622f, 3.0190e-4f, -2.8327e-7f, 9.0711e-11f};
-  s.Modell.CpIndex = 1;
-  s.Modell.EOSIndex = 6;
-  s.Modell.VirialFlag = false;
-  ui::SkriptOberflaeche ui;
-  int16_t err = 0;
-  EOSParameterSetup(s, ui, 6, err);
-  return s;
-}
+using bench::PengRobinsonMethan;
 
 // Arguments: T in K and p in kPa of the direct input.
 void Rechne(benchmark::State& state, int16_t art, int16_t abschnitte, bool mitFunktionen) {
-  ProjectState s = Methan();
+  ProjectState s = PengRobinsonMethan();
   s.Mess.ExpDaten[0].T = static_cast<double>(state.range(0));
   s.Mess.ExpDaten[0].p = static_cast<double>(state.range(1));
   ui::SkriptOberflaeche ui;

@@ -7,28 +7,15 @@
 #include "engine/zustand.h"
 #include "ui/skript_oberflaeche.h"
 
+#include "bench_stoffe.h"
+
 #include <benchmark/benchmark.h>
 
 namespace {
 
 using namespace quor;
 
-ProjectState PengRobinsonMethan() {
-  ProjectState s;
-  InitProjectState(s);
-  s.Stoff.StoffName = "Methan";
-  s.Stoff.MolMasse = 16.043f;
-  s.Stoff.TSiede = 111.66f;
-  s.Stoff.TKrit = 190.564;
-  s.Stoff.pKrit = 4599.2;
-  s.Stoff.omega = 0.0114;
-  s.Modell.EOSIndex = 6;
-  s.Modell.VirialFlag = false;
-  ui::SkriptOberflaeche ui;
-  int16_t err = 0;
-  EOSParameterSetup(s, ui, 6, err);
-  return s;
-}
+using bench::PengRobinsonMethan;
 
 // Arguments: T and p in thousandths of TKrit and pKrit.
 void BM_VzuTP(benchmark::State& state) {

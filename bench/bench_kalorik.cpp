@@ -7,30 +7,15 @@
 #include "engine/zustand.h"
 #include "ui/skript_oberflaeche.h"
 
+#include "bench_stoffe.h"
+
 #include <benchmark/benchmark.h>
 
 namespace {
 
 using namespace quor;
 
-ProjectState Methan() {
-  ProjectState s;
-  InitProjectState(s);
-  s.Stoff.StoffName = "Methan";
-  s.Stoff.MolMasse = 16.043f;
-  s.Stoff.TSiede = 111.66f;
-  s.Stoff.TKrit = 190.564;
-  s.Stoff.pKrit = 4599.2;
-  s.Stoff.omega = 0.0114;
-  s.Stoff.CpPoly = {37.980f, -0.074622f, 3.0190e-4f, -2.8327e-7f, 9.0711e-11f};
-  s.Modell.CpIndex = 1;
-  s.Modell.EOSIndex = 6;
-  s.Modell.VirialFlag = false;
-  ui::SkriptOberflaeche ui;
-  int16_t err = 0;
-  EOSParameterSetup(s, ui, 6, err);
-  return s;
-}
+using bench::PengRobinsonMethan;
 
 // The root of the stable phase at (T, p).
 double Wurzel(ProjectState& s, double T, double p, int& row) {
@@ -45,7 +30,7 @@ double Wurzel(ProjectState& s, double T, double p, int& row) {
 
 // Arguments: T and p in thousandths of TKrit and pKrit.
 void BM_PhiFunktionen(benchmark::State& state) {
-  ProjectState s = Methan();
+  ProjectState s = PengRobinsonMethan();
   const double T = state.range(0) / 1000.0 * s.Stoff.TKrit, p = state.range(1) / 1000.0 * s.Stoff.pKrit;
   int row = 0;
   const double v = Wurzel(s, T, p, row);
@@ -60,7 +45,7 @@ void BM_PhiFunktionen(benchmark::State& state) {
 BENCHMARK(BM_PhiFunktionen)->Args({700, 50})->Args({700, 2000})->Args({1500, 1000});
 
 void BM_ThermoFunktionen(benchmark::State& state) {
-  ProjectState s = Methan();
+  ProjectState s = PengRobinsonMethan();
   const double T = state.range(0) / 1000.0 * s.Stoff.TKrit, p = state.range(1) / 1000.0 * s.Stoff.pKrit;
   int row = 0;
   const double v = Wurzel(s, T, p, row);
@@ -76,7 +61,7 @@ BENCHMARK(BM_ThermoFunktionen)->Args({700, 50})->Args({700, 2000})->Args({1500, 
 
 // Argument: T in thousandths of TKrit.
 void BM_SaettigungsFunktionen(benchmark::State& state) {
-  ProjectState s = Methan();
+  ProjectState s = PengRobinsonMethan();
   const double T = state.range(0) / 1000.0 * s.Stoff.TKrit;
   SaettigungsWerte erg;
   int16_t err = 0;

@@ -5,7 +5,7 @@
 
 namespace {
 
-void BM_FormatVBFest(benchmark::State &state) {
+void BM_FormatVBFest(benchmark::State& state) {
   double t = 298.15;
   for (auto _ : state) {
     benchmark::DoNotOptimize(quor::FormatVB(t, "###0.000 K"));
@@ -14,7 +14,7 @@ void BM_FormatVBFest(benchmark::State &state) {
 }
 BENCHMARK(BM_FormatVBFest);
 
-void BM_FormatVBOptionaleStellen(benchmark::State &state) {
+void BM_FormatVBOptionaleStellen(benchmark::State& state) {
   double v = 0.0821;
   for (auto _ : state) {
     benchmark::DoNotOptimize(quor::FormatVB(v, "##0.000###"));
@@ -23,7 +23,7 @@ void BM_FormatVBOptionaleStellen(benchmark::State &state) {
 }
 BENCHMARK(BM_FormatVBOptionaleStellen);
 
-void BM_FormatVBExponent(benchmark::State &state) {
+void BM_FormatVBExponent(benchmark::State& state) {
   double v = -1234.5678;
   for (auto _ : state) {
     benchmark::DoNotOptimize(quor::FormatVB(v, " 0.0000E+00;-0.0000E+00"));
@@ -32,7 +32,7 @@ void BM_FormatVBExponent(benchmark::State &state) {
 }
 BENCHMARK(BM_FormatVBExponent);
 
-void BM_FormatVBExponentOhneVorkomma(benchmark::State &state) {
+void BM_FormatVBExponentOhneVorkomma(benchmark::State& state) {
   double v = 101.325;
   for (auto _ : state) {
     benchmark::DoNotOptimize(quor::FormatVB(v, ".0000000E+00"));
@@ -41,7 +41,7 @@ void BM_FormatVBExponentOhneVorkomma(benchmark::State &state) {
 }
 BENCHMARK(BM_FormatVBExponentOhneVorkomma);
 
-void BM_SingleText(benchmark::State &state) {
+void BM_SingleText(benchmark::State& state) {
   float x = 0.001234f;
   for (auto _ : state) {
     benchmark::DoNotOptimize(quor::SingleText(x));

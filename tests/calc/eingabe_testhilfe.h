@@ -4,6 +4,7 @@
 
 #include "calc/rechnung_starten.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 

@@ -199,6 +199,7 @@ TEST_F(ProjektGUI, OptionsChangeUnitsAndTheCalculationMenu) {
   EXPECT_TRUE(optionen->MolarSpez(0)->isChecked());
   EXPECT_EQ(optionen->SepCSV()->itemText(2), "Tab");
   EXPECT_EQ(optionen->Punktdichte()->value(), 500);
+  EXPECT_TRUE(optionen->Normierung()->isEnabled()); // the reference-state dialog is there
 
   optionen->MolarSpez(1)->setChecked(true);
   optionen->CalcMode(0)->setChecked(true);
