@@ -35,6 +35,14 @@ constexpr double AbtastSchrittMin = 0.0005; // K
 // The scan has no count limit of its own; this bound only keeps a degenerate model from looping.
 constexpr long AbtastRundenMax = 1000000;
 
+// A step that ran the variable to zero or below: it starts again at 0.01/m (m counts these
+// restarts) with a tenth of the way back to the previous value as its next step.
+void NeuStartNahNull(double& x, double& schritt, double vorher, int& m) {
+  ++m;
+  x = 0.01 / m;
+  schritt = (vorher - x) * 0.1;
+}
+
 double Fehlschlag(int16_t& err) {
   err = -1;
   return 0;
@@ -115,11 +123,7 @@ double SekantenSuche(ProjectState& s, double p, double& Imbalance, double& A, do
     }
     T += schritt;
     if (std::fabs(T - Tc) < 0.0001) return T;
-    if (T < 1e-10) {
-      ++m;
-      T = 0.01 / m;
-      schritt = (TVor - T) * 0.1;
-    }
+    if (T < 1e-10) NeuStartNahNull(T, schritt, TVor, m);
     if (!std::isfinite(T)) return Fehlschlag(err);
   }
   err = -1;
@@ -220,11 +224,7 @@ double pLVbeiT(ProjectState& s, double T, double& Imbalance, double& A, double& 
     }
     p += schritt;
     if (Einfach(p) == Einfach(pc)) return p;
-    if (p < 1e-10) {
-      ++m;
-      p = 0.01 / m;
-      schritt = (pVor - p) * 0.1;
-    }
+    if (p < 1e-10) NeuStartNahNull(p, schritt, pVor, m);
     if (!std::isfinite(p)) return Fehlschlag(err);
   }
   err = -1;
