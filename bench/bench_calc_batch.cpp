@@ -5,7 +5,7 @@
 #include "calc/calc_batch.h"
 #include "core/project_state.h"
 #include "engine/eos_parameter.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include "bench_stoffe.h"
 

@@ -5,7 +5,7 @@
 #include "substance/projekt_laden.h"
 #include "substance/stoff_laden.h"
 #include "substance/stoff_wahl_suche.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <benchmark/benchmark.h>
 

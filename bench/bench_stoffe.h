@@ -3,7 +3,7 @@
 
 #include "core/project_state.h"
 #include "engine/eos_parameter.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 namespace quor::bench {
 

@@ -1,4 +1,4 @@
-# Fails when a source file outside the toolkit layer (src/ui/qt), the programs (app/), the GUI
+# Fails when a source file outside the toolkit layer (src/gui), the programs (app/), the GUI
 # companion tools and the widget tests includes a Qt header. Run with -DWURZEL=<source root>.
 set(gui_werkzeuge tavik1w)
 file(GLOB_RECURSE dateien LIST_DIRECTORIES false
@@ -9,7 +9,7 @@ file(GLOB_RECURSE dateien LIST_DIRECTORIES false
 set(verstoesse "")
 foreach(datei ${dateien})
   file(RELATIVE_PATH relativ ${WURZEL} ${datei})
-  if(relativ MATCHES "^src/ui/qt/" OR relativ MATCHES "^tests/ui/" OR relativ MATCHES "^tests/data/")
+  if(relativ MATCHES "^src/gui/" OR relativ MATCHES "^tests/gui/" OR relativ MATCHES "^tests/data/")
     continue()
   endif()
   set(ist_gui_werkzeug FALSE)

@@ -15,7 +15,7 @@
 #include "substance/datenbank.h"
 #include "substance/datenbank_satz.h"
 #include "substance/projekt_laden.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "calc/ergebnis_typen.h"
 #include "cli/json.h"
 #include "core/project_state.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <iosfwd>
 #include <string>

@@ -2,7 +2,7 @@
 // working directory with their output discarded, awaited at most the order's time.
 #pragma once
 
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 namespace quor::cli {
 

@@ -5,7 +5,7 @@
 
 #include "cli/argumente.h"
 #include "core/project_state.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <string>
 

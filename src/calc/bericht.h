@@ -5,7 +5,7 @@
 
 #include "calc/ergebnis_typen.h"
 #include "core/project_state.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <cstdint>
 #include <string>

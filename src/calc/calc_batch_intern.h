@@ -6,7 +6,7 @@
 #include "calc/ergebnis_typen.h"
 #include "core/project_state.h"
 #include "engine/kalorik.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <cstdint>
 #include <string>

@@ -5,7 +5,7 @@
 
 #include "calc/rechnung_starten.h"
 #include "core/project_state.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <array>
 #include <string>

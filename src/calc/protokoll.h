@@ -4,7 +4,7 @@
 
 #include "calc/ergebnis_typen.h"
 #include "core/project_state.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <array>
 #include <cstdint>

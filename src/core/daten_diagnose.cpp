@@ -1,6 +1,6 @@
 #include "core/daten_diagnose.h"
 
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <cmath>
 #include <initializer_list>

@@ -1,6 +1,6 @@
 #include "core/optionen.h"
 
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <algorithm>
 

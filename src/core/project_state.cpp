@@ -1,7 +1,7 @@
 #include "core/project_state.h"
 
 #include "core/festtext.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <locale>
 #include <sstream>

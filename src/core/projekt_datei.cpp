@@ -4,7 +4,7 @@
 #include "core/festtext.h"
 #include "core/rahmen.h"
 #include "core/text_kodierung.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <ctime>
 #include <type_traits>

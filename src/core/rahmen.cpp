@@ -4,7 +4,7 @@
 #include "core/daten_diagnose.h"
 #include "core/festtext.h"
 #include "core/projekt_status.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <filesystem>
 

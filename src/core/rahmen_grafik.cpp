@@ -2,7 +2,7 @@
 // program notes.
 #include "core/rahmen.h"
 
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 namespace quor {
 

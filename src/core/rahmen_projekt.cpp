@@ -3,7 +3,7 @@
 // options dialog.
 #include "core/projekt_datei.h"
 #include "core/rahmen.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 namespace quor {
 

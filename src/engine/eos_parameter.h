@@ -4,7 +4,7 @@
 #pragma once
 
 #include "core/project_state.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <cstdint>
 #include <string>

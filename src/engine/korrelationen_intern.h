@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/substance_record.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <cmath>
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 #include "core/datei_io.h"
 #include "core/festtext.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <algorithm>
 #include <filesystem>

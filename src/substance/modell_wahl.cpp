@@ -5,7 +5,7 @@
 #include "core/zahlformat.h"
 #include "engine/eos_parameter.h"
 #include "substance/korrelierte_parameter.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <cmath>
 

@@ -9,7 +9,7 @@
 #include "substance/korrelierte_parameter.h"
 #include "substance/stoff_laden.h"
 #include "substance/stoff_wahl_suche.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 namespace quor {
 

@@ -2,7 +2,7 @@
 
 #include "core/festtext.h"
 #include "substance/synonyme.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <vector>
 

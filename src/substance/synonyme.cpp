@@ -4,7 +4,7 @@
 #include "core/festtext.h"
 #include "core/text_kodierung.h"
 #include "substance/datenbank.h"
-#include "ui/oberflaeche.h"
+#include "dienste/oberflaeche.h"
 
 #include <chrono>
 #include <ctime>

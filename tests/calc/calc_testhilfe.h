@@ -10,7 +10,7 @@
 #include "engine/zustand.h"
 #include "substance/datenbank.h"
 #include "substance/stoff_laden.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "calc/bericht.h"
 #include "calc/ergebnis_seite.h"
 #include "test_ergebnis_seite_daten.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

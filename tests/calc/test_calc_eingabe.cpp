@@ -5,7 +5,7 @@
 #include "calc/parinput.h"
 #include "calc_testhilfe.h"
 #include "eingabe_testhilfe.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "calc/ergebnis_seite.h"
 #include "calc_testhilfe.h"
 #include "test_ergebnis_seite_daten.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

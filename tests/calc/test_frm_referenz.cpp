@@ -5,7 +5,7 @@
 #include "engine/referenz.h"
 #include "engine/stoffe.h"
 #include "support/relativ.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

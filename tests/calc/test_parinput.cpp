@@ -3,7 +3,7 @@
 #include "calc/parinput.h"
 #include "calc_testhilfe.h"
 #include "support/relativ.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

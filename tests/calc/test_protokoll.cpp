@@ -4,7 +4,7 @@
 #include "calc/protokoll.h"
 #include "core/text_kodierung.h"
 #include "test_ergebnis_seite_daten.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "calc/rechnung_starten.h"
 #include "calc_testhilfe.h"
 #include "eingabe_testhilfe.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/rahmen.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The data diagnosis ("Daten-Ampel"): the five tests, the level with its order of tests and the
 // report text.
 #include "core/daten_diagnose.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 // taken over without OK.
 #include "core/optionen.h"
 #include "support/relativ.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "core/festtext.h"
 #include "core/project_state.h"
 #include "support/relativ.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "core/datei_io.h"
 #include "core/projekt_datei.h"
 #include "core/text_kodierung.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

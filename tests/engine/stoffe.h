@@ -6,7 +6,7 @@
 #include "engine/eos_parameter.h"
 #include "engine/saettigung.h"
 #include "engine/zustand.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <array>
 #include <cstdint>

@@ -2,7 +2,7 @@
 // independent computations, the validity warnings, and the failures.
 #include "engine/korrelationen.h"
 #include "support/relativ.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

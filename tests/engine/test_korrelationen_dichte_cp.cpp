@@ -2,7 +2,7 @@
 // against literature values or hand-computed numbers.
 #include "engine/korrelationen.h"
 #include "support/relativ.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // kJ/kmol, where T and p come from when they are not given, and the failures.
 #include "engine/korrelationen.h"
 #include "support/relativ.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 
 #include "core/project_state.h"
 #include "engine/korrelationen.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <fcntl.h>
 #include <sys/wait.h>

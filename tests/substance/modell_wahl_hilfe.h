@@ -3,7 +3,7 @@
 
 #include "core/project_state.h"
 #include "substance/modell_wahl.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "rohdatei.h"
 #include "substance/datenbank.h"
 #include "substance/stoff_laden.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "core/text_kodierung.h"
 #include "substance/rohdatei.h"
 #include "substance/synonyme.h"
-#include "ui/skript_oberflaeche.h"
+#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 

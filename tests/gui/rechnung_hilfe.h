@@ -1,0 +1,73 @@
+// Shared by the widget tests of the calculations: the frame with the default database open and
+// methane chosen with its default models, the windows of a calculation, and typing into the value
+// dialog.
+#pragma once
+
+#include "core/project_state.h"
+#include "gui_hilfe.h"
+#include "gui/frame/mdi_quor.h"
+#include "gui/calc/rechnung_steuerung.h"
+#include "gui/substance/stoff_wahl_fenster.h"
+#include "dienste/skript_oberflaeche.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quor::ui::test {
+
+struct RechnungsRahmen {
+  ProjectState s;
+  SkriptOberflaeche ui;
+  std::unique_ptr<mdiQUOR> fenster;
+
+  RechnungsRahmen() {
+    App();
+    s.Datenbank.ProgrammVerzeichnis = QUOR_PROGRAMM_VERZEICHNIS;
+    fenster = std::make_unique<mdiQUOR>(s, ui);
+    fenster->Starten("");
+    fenster->resize(1280, 1000);
+    fenster->show();
+    ui.dateien.push_back(std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/QUOR.Q07");
+    fenster->Befehl("mnuData_OpenBank", 0)->trigger();
+    // Enter in the list takes its first substance, methane, with Peng/Robinson and GLOBAL.
+    Taste(fenster->StoffWahl()->Liste(), Qt::Key_Return);
+    EXPECT_EQ(s.Stoff.StoffName, "Methan");
+    ui.protokoll.clear(); // the file dialog of the database
+  }
+
+  RechnungSteuerung& R() { return *fenster->Rechnung(); }
+  ErgebnisFenster* Seite() { return R().Seite(); }
+
+  // A menu entry of the calculations; false when it is not enabled.
+  bool Menue(const char* name, int index) {
+    QAction* a = fenster->Befehl(name, index);
+    if (!a || !a->isEnabled()) return false;
+    a->trigger();
+    QApplication::processEvents();
+    return true;
+  }
+
+  // Types the values into the value dialog's fields and calculates.
+  void Eingeben(const std::vector<QString>& werte) {
+    ParinputFenster* p = R().Parinput();
+    ASSERT_NE(p, nullptr);
+    ASSERT_EQ(p->Anzahl(), static_cast<int>(werte.size()));
+    for (std::size_t i = 0; i < werte.size(); ++i) {
+      p->Feld(static_cast<int>(i))->selectAll();
+      Tippen(p->Feld(static_cast<int>(i)), werte[i]);
+    }
+    p->OK()->click();
+    QApplication::processEvents();
+  }
+
+  QString Liste() { return Seite()->Liste()->toPlainText(); }
+};
+
+} // namespace quor::ui::test

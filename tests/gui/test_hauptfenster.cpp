@@ -1,0 +1,54 @@
+#include "core/project_state.h"
+#include "gui_hilfe.h"
+#include "gui/frame/mdi_quor.h"
+#include "gui/basis/qt_drucker.h"
+#include "dienste/skript_oberflaeche.h"
+
+#include <QFile>
+#include <QMdiArea>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace quor::ui {
+namespace {
+
+using test::App;
+
+TEST(Hauptfenster, CarriesTheProgramTitleAndAnMdiArea) {
+  App();
+  ProjectState s;
+  InitProjectState(s);
+  SkriptOberflaeche ui;
+  mdiQUOR fenster(s, ui);
+  EXPECT_EQ(fenster.windowTitle().toStdString(),
+            "QUOR-6     thermodynamische Zustands- und Prozessberechnungen an Reinstoffsystemen");
+  EXPECT_EQ(fenster.objectName(), "mdiQUOR");
+  ASSERT_NE(fenster.Arbeitsflaeche(), nullptr);
+  fenster.show();
+  EXPECT_FALSE(fenster.grab().isNull());
+}
+
+TEST(Drucker, WritesTextAndLinesIntoAPdf) {
+  App();
+  QTemporaryDir ordner;
+  ASSERT_TRUE(ordner.isValid());
+  const QString pdf = ordner.filePath("bericht.pdf");
+  QtDrucker drucker(nullptr);
+  drucker.SetzePdfZiel(pdf.toStdString());
+  ASSERT_TRUE(drucker.StartDokument("QUOR: Results of Calculation"));
+  drucker.Schrift("COURIER", 10, false);
+  // A fixed-pitch font: ten characters are ten times as wide as one.
+  EXPECT_NEAR(drucker.TextBreite("XXXXXXXXXX"), 10 * drucker.TextBreite("X"), 0.5);
+  drucker.Position(72, 72);
+  drucker.DruckeText("Substance: Methan");
+  EXPECT_DOUBLE_EQ(drucker.X(), 0);
+  EXPECT_GT(drucker.Y(), 72);
+  drucker.Linie(72, 100, 300, 100);
+  drucker.EndeDokument();
+  QFile datei(pdf);
+  ASSERT_TRUE(datei.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(datei.read(5).startsWith("%PDF"));
+}
+
+} // namespace
+} // namespace quor::ui
