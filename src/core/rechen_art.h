@@ -42,7 +42,7 @@ constexpr bool IstVerdampfung(int16_t a) {
   return a == HLVvonT || a == HLVvonP;
 }
 constexpr bool IstDatenbank(int16_t a) {
-  return a >= DbRhoL && a <= DbRhoS && a != Polytrope;
+  return a >= DbRhoL && a <= DbRhoS;
 }
 constexpr bool IstDampfdruckDb(int16_t a) {
   return a >= DbFrostKalkwarf && a <= DbAntoineHd;
