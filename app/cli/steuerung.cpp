@@ -2,6 +2,7 @@
 
 #include "calc/calc_eingabe.h"
 #include "calc/parinput.h"
+#include "calc/rechen_befehle.h"
 #include "cli/ausgabe.h"
 #include "cli/fehler.h"
 
@@ -11,19 +12,6 @@
 namespace quor::cli {
 
 namespace {
-
-// The menu entry of a kind: the calculation menu, the database submenu and its vapour-pressure submenu.
-bool MenueVonArt(int16_t art, std::string& name, int& index) {
-  for (const char* menue : {"mnuCalc", "mnuCalc_sub_database", "mnuCalc_sub_sub_database"}) {
-    for (int i = 0; i <= 20; ++i) {
-      if (ArtVonMenue(menue, i) != art) continue;
-      name = menue;
-      index = i;
-      return true;
-    }
-  }
-  return false;
-}
 
 // The command-line option that fills a field of the value dialog.
 const char* OptionVon(ParinputGroesse g, bool volumen) {
@@ -45,12 +33,22 @@ const char* OptionVon(ParinputGroesse g, bool volumen) {
 
 } // namespace
 
-RechnungsFenster Steuerung::Fenster() {
-  RechnungsFenster f;
-  f.CalcInZeigen = [this] { CalcInZeigen(); };
-  f.ErgebnisZeigen = [this] { return ErgebnisZeigen(); };
-  f.ParinputZeigen = [this] { ParinputZeigen(); };
-  return f;
+Steuerung::Steuerung(Sitzung& z) : z_(z), ablauf_(z.s, z.ui, Ansicht()) {}
+
+RechnungsAblauf::Ansicht Steuerung::Ansicht() {
+  RechnungsAblauf::Ansicht a;
+  a.CalcInZeigen = [this] { CalcInZeigen(); };
+  a.SeiteAnlegen = [this] {
+    seite_ = std::make_unique<frmQCalcOut>(z_.s, z_.ui, z_.s.Rechnung.StapelModus);
+    return seite_.get();
+  };
+  a.SeiteGeladen = [this](bool offen) { geschlossen_ = !offen; };
+  a.SeiteSchliessen = [this] {
+    seite_->Form_Unload();
+    geschlossen_ = true;
+  };
+  a.ParinputZeigen = [this] { ParinputZeigen(); };
+  return a;
 }
 
 void Steuerung::Starten(int16_t art, bool stapel, std::ostream& fehler) {
@@ -64,7 +62,7 @@ void Steuerung::Starten(int16_t art, bool stapel, std::ostream& fehler) {
   if (a.Gleichgewicht && (art != 3 || stapel)) throw Eingabefehler("--equilibrium belongs to calc 3");
   // The question whether T and p lie on the saturation line is answered by --equilibrium.
   if (art == 3 && !stapel) z_.ui.antworten.push_back(a.Gleichgewicht ? ui::Antwort::Ja : ui::Antwort::Nein);
-  mnuCalc_Click(s, z_.ui, Fenster(), name, index);
+  ablauf_.Menue(name, index);
   z_.ui.antworten.clear();
   if (s.RechenArt == 0)
     throw Eingabefehler("the calculation of kind " + std::to_string(art) + " cannot start");
@@ -74,7 +72,7 @@ void Steuerung::Starten(int16_t art, bool stapel, std::ostream& fehler) {
 
 void Steuerung::CalcInZeigen() {
   const Aufruf& a = z_.aufruf;
-  frmCalcIn dialog(z_.s, z_.ui, Fenster());
+  frmCalcIn dialog(z_.s, z_.ui, ablauf_.Fenster());
   dialog.Form_Load();
   if (a.KonzeptGlobal) {
     if (*a.KonzeptGlobal && !dialog.opt_globEnabled[0])
@@ -93,24 +91,9 @@ void Steuerung::CalcInZeigen() {
   dialog.OK_Click();
 }
 
-void Steuerung::VorgabenUebergeben() {
-  RechenKontext& k = seite_->Kontext;
-  const BehaelterDaten& b = z_.s.Rechnung.Behaelter;
-  k.TpIstGleichgewicht = z_.s.Rechnung.TpGleichgewicht;
-  k.Behaelter = BehaelterVorgabe{b.m, b.V, b.BehaelterT};
-}
-
-bool Steuerung::ErgebnisZeigen() {
-  seite_ = std::make_unique<frmQCalcOut>(z_.s, z_.ui, z_.s.Rechnung.StapelModus);
-  VorgabenUebergeben();
-  seite_->Form_Load();
-  geschlossen_ = seite_->Entladen;
-  return !geschlossen_;
-}
-
 void Steuerung::ParinputZeigen() {
   const Aufruf& a = z_.aufruf;
-  frmParinput dialog(z_.s, z_.ui, [this] { return Berechnen(); });
+  frmParinput dialog(z_.s, z_.ui, [this] { return ablauf_.Berechnen(); });
   dialog.Form_Load();
   if (z_.s.Rechnung.ParinputModus == ParinputBezugspunkt) {
     for (std::size_t i = 0; i < dialog.Felder.size() && i < 4; ++i)
@@ -145,22 +128,6 @@ void Steuerung::ParinputZeigen() {
   for (std::size_t i = vorher; i < z_.ui.protokoll.size(); ++i)
     if (z_.ui.protokoll[i].text == frmParinput::UngueltigText)
       throw Eingabefehler(kind + ": the value dialog refused the input");
-}
-
-std::string Steuerung::Berechnen() {
-  const bool behaelter = z_.s.Rechnung.ParinputModus == ParinputBehaelter;
-  if (!seite_ || seite_->Entladen) {
-    // The PARTIAL vessel opens its page with the first values.
-    if (!behaelter) return {};
-    return ErgebnisZeigen() ? seite_->Ausgang : "EXIT";
-  }
-  VorgabenUebergeben();
-  seite_->Rechnen();
-  if (seite_->Ausgang == "EXIT") {
-    seite_->Form_Unload();
-    geschlossen_ = true;
-  }
-  return seite_->Ausgang;
 }
 
 void Steuerung::ZusatzBloecke(std::ostream& fehler) {

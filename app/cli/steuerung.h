@@ -4,7 +4,7 @@
 #pragma once
 
 #include "calc/ergebnis_seite.h"
-#include "calc/rechnung_starten.h"
+#include "calc/rechnungs_ablauf.h"
 #include "cli/json.h"
 #include "cli/sitzung.h"
 
@@ -23,7 +23,7 @@ struct BezugspunktInfo {
 
 class Steuerung {
 public:
-  explicit Steuerung(Sitzung& z) : z_(z) {}
+  explicit Steuerung(Sitzung& z);
 
   // Runs the menu command of kind `art` to its end, directly (the value dialog takes the given
   // values and calculates) or over the batch data. Throws CliFehler when the program refuses.
@@ -40,17 +40,15 @@ public:
   void ZusatzBloecke(std::ostream& fehler);
 
 private:
-  RechnungsFenster Fenster();
+  RechnungsAblauf::Ansicht Ansicht();
   void CalcInZeigen();
-  bool ErgebnisZeigen();
   void ParinputZeigen();
-  std::string Berechnen();
-  void VorgabenUebergeben();
 
   Sitzung& z_;
   std::unique_ptr<frmQCalcOut> seite_;
   bool geschlossen_ = false;
   BezugspunktInfo bezug_;
+  RechnungsAblauf ablauf_; // last: its hooks use the members above
 };
 
 void BezugspunktJson(JsonSchreiber& j, const ProjectState& s, const BezugspunktInfo& b);

@@ -28,11 +28,6 @@ extern const char* const TpFrageText;
 extern const char* const TpFrageTitel;
 extern const char* const NurKubischText; // refusal of kind 2 with a model without liquid phase
 
-// The kind of a menu entry: "mnuCalc" by index, the database submenu "mnuCalc_sub_database" (entries 1
-// to 6) and its vapour-pressure submenu "mnuCalc_sub_sub_database" (entries 0 to 3). 0 for an entry
-// that starts no calculation (a separator, a submenu).
-int16_t ArtVonMenue(const std::string& name, int index);
-
 // A command of the calculation menu: sets RechenArt (and the concept of the vessel), starts the
 // calculation, and brings the result page forward after the vessel. False for an entry without a kind.
 bool mnuCalc_Click(ProjectState& s, ui::Oberflaeche& ui, const RechnungsFenster& f, const std::string& name,

@@ -42,7 +42,9 @@ std::string KommandozeileBereinigen(std::string zeile) {
 }
 
 RahmenLogik::RahmenLogik(ProjectState& s, ui::Oberflaeche& ui, RahmenDienste dienste)
-    : s_(s), ui_(ui), d_(std::move(dienste)) {}
+    : s_(s), ui_(ui), d_(std::move(dienste)) {
+  BefehleRegistrieren();
+}
 
 void RahmenLogik::Start(const std::string& kommandozeile) {
   ProjektGruppe& p = s_.Projekt;
@@ -87,61 +89,6 @@ bool RahmenLogik::Beenden() {
   return true;
 }
 
-bool RahmenLogik::Ausfuehren(const std::string& name, int index) {
-  if (!Freigegeben(name, index)) return false;
-  if (name == "mnuData_OpenBank") {
-    mnuData_OpenBank_Click(index);
-  } else if (name == "mnuData_NewProject") {
-    mnuData_NewProject_Click();
-  } else if (name == "mnuProjectStatus") {
-    mnuProjectStatus_Click();
-  } else if (name == "mnuData_SaveProject") {
-    mnuData_SaveProject_Click();
-  } else if (name == "mnuData_BatchInput") {
-    mnuData_BatchInput_Click();
-  } else if (name == "mnuShowApp_path") {
-    mnuShowApp_path_Click();
-  } else if (name == "mnuData_ParameterEOS") {
-    mnuData_ParameterEOS_Click();
-  } else if (name == "mnuTavik1W") {
-    mnuTavik1W_Click();
-  } else if (name == "mnuStoffwahl") {
-    mnuStoffwahl_Click();
-  } else if (name == "mnuModel") {
-    mnuModel_Click();
-  } else if (name == ToolbarName) {
-    Toolbar1_ButtonClick(index);
-  } else if (name == "mnuData_Exit") {
-    Beenden();
-  } else if (name == "mnuHilfe_Inhalt") {
-    ui_.Hilfe(HilfeInhalt);
-  } else if (name == "mnuHilfe_Erstnutzer") {
-    ui_.Hilfe(HilfeErstnutzer);
-  } else if (name == "mnuHilfe_RechenUebung") {
-    ui_.Hilfe(HilfeRechenUebung);
-  } else if (name == "mnuHilfe_Tipps") {
-    ui_.Hilfe(HilfeTipps);
-  } else if (name == "mnuHilfeHinweis") {
-    mnuHilfeHinweis_Click();
-  } else if (name == "mnuHilfe_About") {
-    mnuHilfe_About_Click();
-  } else if (name == "mnuData_LoadProject") {
-    mnuData_LoadProject_Click();
-  } else if (name == "mnuData_LoadLastSession") {
-    mnuData_LoadLastSession_Click();
-  } else if (name == "mnuOptions") {
-    mnuOptions_Click();
-  } else if (name.rfind("mnuCalc", 0) == 0) {
-    if (!d_.Rechnung) return false;
-    d_.Rechnung(name, index);
-  } else if (name.rfind("mnuGraf", 0) == 0) {
-    return GrafErlaubt(name, index);
-  } else {
-    return false;
-  }
-  return true;
-}
-
 void RahmenLogik::mnuData_OpenBank_Click(int index) {
   if (index != 0 && index != 2) return; // index 1 is the separator
   const int typ = 7 - index / 2;
@@ -155,7 +102,7 @@ void RahmenLogik::mnuData_OpenBank_Click(int index) {
     p.StatusLeiste[i].clear();
   p.Ampel = DatenLage{};
   s_.Datenbank.StoffIndex = 0;
-  if (d_.StoffWahlZeigen) d_.StoffWahlZeigen();
+  Befehle.Ausloesen("mnuStoffwahl");
 }
 
 void RahmenLogik::mnuProjectStatus_Click() {
@@ -217,45 +164,6 @@ void RahmenLogik::mnuTavik1W_Click() {
   auftrag.wartenMs = -1; // the converter runs beside the program
   if (ui_.StarteProzess(auftrag).ergebnis == ui::ProzessErgebnis::NichtGestartet)
     ui_.Meldung("Datei " + name + ".EXE konnte nicht gestartet werden", NichtMoeglich, ui::Symbol::Ausruf);
-}
-
-void RahmenLogik::mnuStoffwahl_Click() {
-  if (d_.StoffWahlZeigen) d_.StoffWahlZeigen();
-}
-
-void RahmenLogik::mnuModel_Click() {
-  if (d_.ModellFensterZeigen) d_.ModellFensterZeigen();
-}
-
-void RahmenLogik::Toolbar1_ButtonClick(int index) {
-  switch (index) {
-  case 2:
-    mnuData_NewProject_Click();
-    break;
-  case 4:
-    mnuData_LoadLastSession_Click();
-    break;
-  case 6:
-    mnuData_LoadProject_Click();
-    break;
-  case 8:
-    mnuData_SaveProject_Click();
-    break;
-  case 11:
-    if (d_.ReferenzZeigen) d_.ReferenzZeigen();
-    break;
-  case 15: // the vessel by the project's concept
-    if (d_.Rechnung) d_.Rechnung("mnuCalc", s_.Modell.KonzeptGlobal ? 15 : 16);
-    break;
-  case 20:
-    mnuData_BatchInput_Click();
-    break;
-  case 32:
-    mnuProjectStatus_Click();
-    break;
-  default:
-    break; // the other buttons' commands are not part of this build
-  }
 }
 
 void RahmenLogik::txtAmpel_Click() {

@@ -4,8 +4,8 @@
 // EOS report, the windows to show) comes in as services.
 #pragma once
 
+#include "core/befehls_register.h"
 #include "core/project_state.h"
-#include "core/rahmen_freigaben.h"
 
 #include <functional>
 #include <string>
@@ -31,14 +31,15 @@ enum HilfeThema : int {
   HilfeRechenUebung = 45333
 };
 
-// What the frame asks of the outer layers and of its view. A service left empty is a function that
-// isn't there yet: its command does nothing further.
+// What the frame's own commands ask of the outer layers and of its view. A service left empty is a
+// function that isn't there yet: its command does nothing further. Commands of other subsystems
+// (calculations, the reference state, options, the substance choice) are rows of the registry with
+// handlers of their own.
 struct RahmenDienste {
   EOSSetupFunktion EOSSetup;                                    // for the defaults of the start
   std::function<bool(ProjectState&, int typ)> DatenbankWaehlen; // file dialog and opening; true on success
   std::function<std::string(ProjectState&)> ParameterEOSText;
   std::string ParameterEOSTitel;
-  std::function<void()> StoffWahlZeigen;
   std::function<void()> ModellFensterZeigen;
   std::function<void(const std::string& titel, const std::string& text)> TextFensterZeigen;
   // Loads a project; true on success, with the measured-data file it names (may be empty).
@@ -52,17 +53,10 @@ struct RahmenDienste {
       ProjektDialog;
   std::function<bool(ProjectState&, const std::string& pfad)> BatchDateiLaden; // true when loaded
   std::function<void()> DialogeSchliessen; // every open dialog but the model window
-  std::function<void()> OptionenZeigen;
-  // A command of the calculation menu (entry name and index), and the dialog of the reference state.
-  std::function<void(const std::string& name, int index)> Rechnung;
-  std::function<void()> ReferenzZeigen;
 };
 
 // The command line without any double quote, taken out one at a time, and without blanks at its ends.
 std::string KommandozeileBereinigen(std::string zeile);
-
-// True for a cubic equation of state (rows 2 to 8 of the EOS table).
-bool IstKubischesModell(const ProjectState& s);
 
 class RahmenLogik {
 public:
@@ -77,7 +71,7 @@ public:
   bool Beenden();
 
   // Runs the command of a menu entry or toolbar button; false when it isn't enabled or not known.
-  bool Ausfuehren(const std::string& name, int index = -1);
+  bool Ausfuehren(const std::string& name, int index = -1) { return Befehle.Ausfuehren(s_, name, index); }
 
   void mnuData_OpenBank_Click(int index);
   void mnuData_NewProject_Click() { mnuData_OpenBank_Click(0); }
@@ -88,40 +82,31 @@ public:
   void mnuShowApp_path_Click();
   void mnuData_ParameterEOS_Click();
   void mnuTavik1W_Click();
-  void mnuStoffwahl_Click();
-  void mnuModel_Click();
-  void Toolbar1_ButtonClick(int index);
   // The Daten-Ampel field: the report of the substance's data.
   void txtAmpel_Click();
   void mnuHilfeHinweis_Click();
   void mnuHilfe_About_Click();
   void mnuData_LoadProject_Click();
   void mnuData_LoadLastSession_Click();
-  void mnuOptions_Click();
-
-  // The diagram entries' own tests before a diagram opens; false (after the message) when refused.
-  bool GrafErlaubt(const std::string& name, int index);
-  // The 3D surfaces of pressure and temperature with a cubic model: real behaviour or S-shaped
-  // loops below the critical point. Other models and surfaces always draw the real behaviour.
-  bool Reales3D(int art);
-
-  // Text of the entry for the virial coefficients, by the chosen model.
-  std::string VirialEintragText() const;
 
   RahmenZustand Zustand() const { return ZustandVon(s_); }
   bool Freigegeben(const std::string& name, int index = -1) const {
-    return quor::Freigegeben(s_, Befehle, name, index);
+    return Befehle.Freigegeben(s_, name, index);
   }
 
-  BefehlsSatz Befehle;
+  // The frame's rows are registered on construction; the other subsystems add theirs.
+  BefehlsRegister Befehle;
   std::string HilfeVerzeichnis;
   std::string ProjektFilter;
   std::string BatchFilter;
   std::string KommandoProjekt; // the project file named on the command line
+  bool Beendet() const { return beendet_; }
   bool Gestartet = false;
   bool LetzteSitzungFaellig = false; // the end found a database: the last session is due
 
 private:
+  void BefehleRegistrieren();
+  void HandlerSetzen();
   enum class ProjektWeg { Kommandozeile, Menue, LetzteSitzung };
   // A project loaded by any way, with what follows: its batch file, the menus and the model window.
   bool ProjektOeffnen(const std::string& pfad, ProjektWeg weg);

@@ -42,10 +42,6 @@ void RahmenLogik::mnuData_LoadLastSession_Click() {
   ProjektOeffnen(LetzteSitzungDatei, ProjektWeg::LetzteSitzung);
 }
 
-void RahmenLogik::mnuOptions_Click() {
-  if (d_.OptionenZeigen) d_.OptionenZeigen();
-}
-
 bool RahmenLogik::ProjektOeffnen(const std::string& pfad, ProjektWeg weg) {
   std::string batch;
   if (!d_.ProjektLaden || !d_.ProjektLaden(s_, pfad, batch)) return false;

@@ -13,6 +13,8 @@ namespace quor {
 struct TGrenzen {
   int16_t TLo = 0;
   int16_t THi = 0;
+  // The function behind the limits is there: one limit suffices.
+  bool Vorhanden() const { return TLo > 0 || THi > 0; }
 };
 
 struct SubstanceRecord {

@@ -1,10 +1,9 @@
-// From a command of the calculation menu to the first window: the kind of each entry, the refusal of
-// kind 2 without a liquid phase, the question on T and p at equilibrium, and which dialog comes next
-// in direct and batch mode.
+// From a command of the calculation menu to the first window: the refusal of kind 2 without a liquid phase,
+// the question on T and p at equilibrium, and which dialog comes next in direct and batch mode.
 #include "calc/rechnung_starten.h"
 #include "calc_testhilfe.h"
-#include "eingabe_testhilfe.h"
 #include "dienste/skript_oberflaeche.h"
+#include "eingabe_testhilfe.h"
 
 #include <gtest/gtest.h>
 
@@ -26,28 +25,6 @@ struct Start {
   }
 };
 
-// The entries in menu order, the separators and submenus between them starting nothing.
-TEST(RechnungStarten, EveryEntryHasItsKind) {
-  const std::vector<std::pair<int, int16_t>> calc{{0, 1},  {1, 2},   {2, 3},   {3, 13}, {4, 0},  {5, 4},
-                                                  {6, 5},  {7, 0},   {8, 6},   {9, 7},  {11, 8}, {13, 12},
-                                                  {15, 9}, {16, 10}, {18, 11}, {19, 0}, {20, 0}};
-  for (const auto& [index, art] : calc)
-    EXPECT_EQ(ArtVonMenue("mnuCalc", index), art) << index;
-  const std::vector<int16_t> datenbank{0, 14, 24, 15, 16, 17, 18};
-  for (int index = 0; index <= 6; ++index)
-    EXPECT_EQ(ArtVonMenue("mnuCalc_sub_database", index), datenbank[index]) << index;
-  for (int index = 0; index <= 3; ++index)
-    EXPECT_EQ(ArtVonMenue("mnuCalc_sub_sub_database", index), index + 19);
-  EXPECT_EQ(ArtVonMenue("mnuCalc_sub_sub_database", 4), 0);
-
-  Start t(6);
-  EXPECT_FALSE(mnuCalc_Click(t.s, t.ui, t.fenster.Fenster(), "mnuCalc", 4));
-  EXPECT_EQ(t.s.RechenArt, 0);
-  EXPECT_TRUE(t.fenster.schritte.empty());
-}
-
-// Kind 2 asks for a liquid: with a virial model it is refused before any dialog, and the kind is
-// cleared; the models' cubic counterpart goes straight to the page and the value dialog.
 TEST(RechnungStarten, KindTwoNeedsACubicModel) {
   Start virial(13);
   EXPECT_EQ(virial.Menue("mnuCalc", 1), Schritte{});

@@ -29,7 +29,6 @@ struct Rahmen {
       if (datenbankErfolg) st.Datenbank.DatenbankGeladen = true;
       return datenbankErfolg;
     };
-    d.StoffWahlZeigen = [this] { aufrufe.push_back("StoffWahl"); };
     d.ModellFensterZeigen = [this] { aufrufe.push_back("ModellFenster"); };
     d.TextFensterZeigen = [this](const std::string& titel, const std::string& text) {
       aufrufe.push_back("Text " + titel + "|" + text);
@@ -40,7 +39,11 @@ struct Rahmen {
   }
 
   // A new logic with the services as they stand now.
-  void Bauen() { logik = std::make_unique<RahmenLogik>(s, ui, d); }
+  // The substance choice is a row of the registry; its window records the call.
+  void Bauen() {
+    logik = std::make_unique<RahmenLogik>(s, ui, d);
+    logik->Befehle.Handler("mnuStoffwahl", [this](int) { aufrufe.push_back("StoffWahl"); });
+  }
 
   // An open database and a substance with critical data whose models were tested, as the
   // substance choice and the model window leave them.

@@ -164,8 +164,7 @@ TEST(ProjektMenue, TheLastSessionResetsTheFitColumnClosesDialogsAndAsksNothing) 
 TEST(ProjektMenue, OptionsNeedASubstance) {
   ProjektRahmen r;
   int gezeigt = 0;
-  r.d.OptionenZeigen = [&] { ++gezeigt; };
-  r.Bauen();
+  r.logik->Befehle.Handler("mnuOptions", [&](int) { ++gezeigt; });
   r.logik->Start("");
   EXPECT_FALSE(r.logik->Ausfuehren("mnuOptions"));
   r.MitStoffUndModell();

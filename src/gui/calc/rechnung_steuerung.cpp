@@ -1,6 +1,5 @@
 #include "gui/calc/rechnung_steuerung.h"
 
-#include "core/rahmen_freigaben.h"
 #include "dienste/oberflaeche.h"
 #include "gui/calc/calc_in_fenster.h"
 #include "gui/calc/ceos_diagnose_fenster.h"
@@ -19,41 +18,40 @@ namespace {
 constexpr int StandardHoehe = 740;
 } // namespace
 
-void RechnungBefehleGebaut(BefehlsSatz& befehle) {
-  // Every kind with its page; the polytropic process waits for its process dialog.
-  for (int index : {0, 1, 2, 3, 5, 6, 8, 9, 11, 15, 16, 18})
-    befehle.SetzeGebaut("mnuCalc", index);
-  for (int index = 1; index <= 6; ++index)
-    befehle.SetzeGebaut("mnuCalc_sub_database", index);
-  for (int index = 0; index <= 3; ++index)
-    befehle.SetzeGebaut("mnuCalc_sub_sub_database", index);
-  befehle.SetzeGebaut("frmReferenz");
-}
-
 RechnungSteuerung::RechnungSteuerung(ProjectState& s, Oberflaeche& ui, QMdiArea* flaeche, QWidget* rahmen)
-    : QObject(rahmen), s_(s), ui_(ui), flaeche_(flaeche), rahmen_(rahmen) {}
+    : QObject(rahmen), s_(s), ui_(ui), flaeche_(flaeche), rahmen_(rahmen), ablauf_(s, ui, Ansicht()) {}
 
 RechnungSteuerung::~RechnungSteuerung() = default;
 
-RechnungsFenster RechnungSteuerung::Fenster() {
-  RechnungsFenster f;
-  f.CalcInZeigen = [this] { CalcInZeigen(); };
-  f.ErgebnisZeigen = [this] { return ErgebnisZeigen(); };
-  f.ParinputZeigen = [this] { ParinputZeigen(); };
-  f.ParinputSchliessen = [this] {
+RechnungsAblauf::Ansicht RechnungSteuerung::Ansicht() {
+  RechnungsAblauf::Ansicht a;
+  a.CalcInZeigen = [this] { CalcInZeigen(); };
+  a.SeiteAnlegen = [this] { return SeiteAnlegen(); };
+  a.SeiteGeladen = [this](bool offen) { SeiteGeladen(offen); };
+  a.SeiteGerechnet = [this] {
+    if (seite_) seite_->Zeige();
+  };
+  a.SeiteSchliessen = [this] {
+    disconnect(seite_, &ErgebnisFenster::entladen, this, &RechnungSteuerung::SeiteEntladen);
+    seitenFenster_->close();
+    seitenFenster_ = nullptr;
+    seite_ = nullptr;
+  };
+  a.ParinputZeigen = [this] { ParinputZeigen(); };
+  a.ParinputSchliessen = [this] {
     if (parinput_) parinput_->close();
     parinput_ = nullptr;
   };
-  f.ErgebnisNachVorne = [this] {
+  a.ErgebnisNachVorne = [this] {
     if (seitenFenster_) flaeche_->setActiveSubWindow(seitenFenster_);
   };
-  return f;
+  return a;
 }
 
 void RechnungSteuerung::Menue(const std::string& name, int index) {
   // A new calculation replaces the page on show with everything that belongs to it.
   SeiteSchliessen();
-  mnuCalc_Click(s_, ui_, Fenster(), name, index);
+  ablauf_.Menue(name, index);
 }
 
 void RechnungSteuerung::ReferenzZeigen() {
@@ -64,15 +62,14 @@ void RechnungSteuerung::ReferenzZeigen() {
 
 void RechnungSteuerung::SeiteSchliessen() {
   if (seitenFenster_) seitenFenster_->close();
-  seitenFenster_ = nullptr;
-  seite_ = nullptr;
-  BegleiterSchliessen();
+  SeiteEntladen();
 }
 
 // The page has closed (by its button, its window or a new calculation): its companions go with it.
 void RechnungSteuerung::SeiteEntladen() {
   seite_ = nullptr;
   seitenFenster_ = nullptr;
+  ablauf_.SeiteVergessen();
   BegleiterSchliessen();
 }
 
@@ -85,24 +82,20 @@ void RechnungSteuerung::BegleiterSchliessen() {
   superKrit_ = nullptr;
 }
 
-// What the input dialogs decided goes to the page's calculation.
-void RechnungSteuerung::VorgabenUebergeben() {
-  RechenKontext& k = seite_->Logik().Kontext;
-  const BehaelterDaten& b = s_.Rechnung.Behaelter;
-  k.TpIstGleichgewicht = s_.Rechnung.TpGleichgewicht;
-  k.Behaelter = BehaelterVorgabe{b.m, b.V, b.BehaelterT};
+frmQCalcOut* RechnungSteuerung::SeiteAnlegen() {
+  if (seitenFenster_) seitenFenster_->close();
+  seite_ = new ErgebnisFenster(s_, ui_, s_.Rechnung.StapelModus);
+  return &seite_->Logik();
 }
 
-bool RechnungSteuerung::ErgebnisZeigen() {
-  if (seitenFenster_) seitenFenster_->close();
-  auto* seite = new ErgebnisFenster(s_, ui_, s_.Rechnung.StapelModus);
-  seite_ = seite;
-  VorgabenUebergeben();
-  if (!seite->Laden()) {
-    delete seite;
-    return false;
+void RechnungSteuerung::SeiteGeladen(bool offen) {
+  if (!offen) {
+    delete seite_;
+    seite_ = nullptr;
+    return;
   }
-  seitenFenster_ = flaeche_->addSubWindow(seite);
+  seite_->Zeige();
+  seitenFenster_ = flaeche_->addSubWindow(seite_);
   seitenFenster_->setObjectName("frmQCalcOutFenster");
   seitenFenster_->setWindowIcon(rahmen_->windowIcon());
   const FensterLage& lage = s_.Rechnung.ErgebnisSeite;
@@ -110,12 +103,11 @@ bool RechnungSteuerung::ErgebnisZeigen() {
     seitenFenster_->setGeometry(lage.x, lage.y, lage.breite, lage.hoehe);
   else
     seitenFenster_->resize(seitenFenster_->sizeHint().expandedTo(QSize(0, StandardHoehe)));
-  connect(seite, &ErgebnisFenster::entladen, this, &RechnungSteuerung::SeiteEntladen);
-  connect(seite, &ErgebnisFenster::diagnoseGewuenscht, this, &RechnungSteuerung::DiagnoseZeigen);
-  connect(seite, &ErgebnisFenster::superKritUmschalten, this, &RechnungSteuerung::SuperKritUmschalten);
+  connect(seite_, &ErgebnisFenster::entladen, this, &RechnungSteuerung::SeiteEntladen);
+  connect(seite_, &ErgebnisFenster::diagnoseGewuenscht, this, &RechnungSteuerung::DiagnoseZeigen);
+  connect(seite_, &ErgebnisFenster::superKritUmschalten, this, &RechnungSteuerung::SuperKritUmschalten);
   seitenFenster_->show();
   flaeche_->setActiveSubWindow(seitenFenster_);
-  return true;
 }
 
 void RechnungSteuerung::ParinputZeigen() {
@@ -128,7 +120,7 @@ void RechnungSteuerung::ParinputZeigen() {
   }
   if (!parinput_) {
     parinput_ = new ParinputFenster(
-        s_, ui_, [this] { return Berechnen(); }, rahmen_);
+        s_, ui_, [this] { return ablauf_.Berechnen(); }, rahmen_);
     parinput_->setAttribute(Qt::WA_DeleteOnClose);
   }
   parinput_->Laden();
@@ -140,30 +132,8 @@ void RechnungSteuerung::ParinputZeigen() {
   parinput_->activateWindow();
 }
 
-std::string RechnungSteuerung::Berechnen() {
-  const bool behaelter = s_.Rechnung.ParinputModus == ParinputBehaelter;
-  if (!seite_ || seite_->Logik().Entladen) {
-    // The PARTIAL vessel opens its page with the first values.
-    if (!behaelter) return {};
-    return ErgebnisZeigen() ? seite_->Logik().Ausgang : "EXIT";
-  }
-  VorgabenUebergeben();
-  seite_->Rechnen();
-  const std::string ausgang = seite_->Logik().Ausgang;
-  if (ausgang == "EXIT") {
-    // The page closes at once; the value dialog stays for a better input.
-    disconnect(seite_, &ErgebnisFenster::entladen, this, &RechnungSteuerung::SeiteEntladen);
-    seitenFenster_->close();
-    seitenFenster_ = nullptr;
-    seite_ = nullptr;
-  } else if (behaelter) {
-    flaeche_->setActiveSubWindow(seitenFenster_);
-  }
-  return ausgang;
-}
-
 void RechnungSteuerung::CalcInZeigen() {
-  auto* fenster = new CalcInFenster(s_, ui_, Fenster(), rahmen_);
+  auto* fenster = new CalcInFenster(s_, ui_, ablauf_.Fenster(), rahmen_);
   fenster->setAttribute(Qt::WA_DeleteOnClose);
   calcIn_ = fenster;
   fenster->open();

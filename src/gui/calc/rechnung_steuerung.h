@@ -4,7 +4,7 @@
 // value dialog to the page, so that each input is calculated and shown at once.
 #pragma once
 
-#include "calc/rechnung_starten.h"
+#include "calc/rechnungs_ablauf.h"
 #include "gui/calc/calc_in_fenster.h"
 #include "gui/calc/ceos_diagnose_fenster.h"
 #include "gui/calc/ergebnis_fenster.h"
@@ -19,16 +19,9 @@
 
 class QMdiArea;
 
-namespace quor {
-class BefehlsSatz;
-}
-
 namespace quor::ui {
 
 class Oberflaeche;
-
-// Marks the commands of the calculation menu and the toolbar's reference and vessel buttons as built.
-void RechnungBefehleGebaut(BefehlsSatz& befehle);
 
 class RechnungSteuerung : public QObject {
   Q_OBJECT
@@ -44,7 +37,7 @@ public:
   // Closes the result page with its companions (an open record is written then).
   void SeiteSchliessen();
 
-  RechnungsFenster Fenster();
+  RechnungsFenster Fenster() { return ablauf_.Fenster(); }
 
   ErgebnisFenster* Seite() const { return seite_; }
   QMdiSubWindow* SeitenFenster() const { return seitenFenster_; }
@@ -54,15 +47,15 @@ public:
   SuperKritFenster* SuperKrit() const { return superKrit_; }
 
 private:
-  bool ErgebnisZeigen();
+  RechnungsAblauf::Ansicht Ansicht();
+  frmQCalcOut* SeiteAnlegen();
+  void SeiteGeladen(bool offen);
   void ParinputZeigen();
   void CalcInZeigen();
   void DiagnoseZeigen();
   void SuperKritUmschalten();
   void SeiteEntladen();
   void BegleiterSchliessen();
-  void VorgabenUebergeben();
-  std::string Berechnen();
 
   ProjectState& s_;
   Oberflaeche& ui_;
@@ -74,6 +67,7 @@ private:
   QPointer<CalcInFenster> calcIn_;
   QPointer<CEOSDiagnoseFenster> diagnose_;
   QPointer<SuperKritFenster> superKrit_;
+  RechnungsAblauf ablauf_; // last: its hooks use the members above
 };
 
 } // namespace quor::ui

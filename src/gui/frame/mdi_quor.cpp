@@ -1,15 +1,18 @@
 #include "gui/frame/mdi_quor.h"
 
+#include "calc/rechen_befehle.h"
 #include "core/daten_diagnose.h"
+#include "diagrams/diagramm_befehle.h"
 #include "dienste/oberflaeche.h"
-#include "gui/frame/menue_tabelle.h"
-#include "gui/substance/modell_fenster.h"
+#include "fitting/daten_befehle.h"
+#include "gui/basis/symbole.h"
+#include "gui/calc/rechnung_steuerung.h"
 #include "gui/frame/projekt_dialog_dienste.h"
 #include "gui/frame/rahmen_dienste.h"
-#include "gui/calc/rechnung_steuerung.h"
+#include "gui/substance/modell_fenster.h"
 #include "gui/substance/stoff_wahl_fenster.h"
-#include "gui/basis/symbole.h"
 #include "gui/substance/text_fenster.h"
+#include "substance/stoff_befehle.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -38,7 +41,7 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
     : QMainWindow(eltern), state_(state), ui_(ui), mdi_(new QMdiArea(this)) {
   rechnung_ = new RechnungSteuerung(state, ui, mdi_, this);
   logik_ = std::make_unique<RahmenLogik>(state, ui, Dienste());
-  RechnungBefehleGebaut(logik_->Befehle);
+  BefehleRegistrieren();
   setObjectName("mdiQUOR");
   setWindowTitle(QString::fromUtf8(HauptfensterTitel));
   setWindowIcon(ProgrammSymbol());
@@ -56,13 +59,10 @@ mdiQUOR::~mdiQUOR() = default;
 
 RahmenDienste mdiQUOR::Dienste() {
   RahmenDienste d = StandardDienste(ui_);
-  d.StoffWahlZeigen = [this] { StoffWahlZeigen(); };
   d.ModellFensterZeigen = [this] { ModellFensterZeigen(true); };
   d.TextFensterZeigen = [this](const std::string& titel, const std::string& text) {
     ZeigeTextFenster(frmQTextEdit(titel, text), this);
   };
-  d.Rechnung = [this](const std::string& name, int index) { rechnung_->Menue(name, index); };
-  d.ReferenzZeigen = [this] { rechnung_->ReferenzZeigen(); };
   d.ProtokollSchliessen = [this] { rechnung_->SeiteSchliessen(); };
   ProjektFensterDienste(d, *this, state_, ui_);
   return d;
@@ -73,61 +73,82 @@ void mdiQUOR::Starten(const std::string& kommandozeile) {
   Aktualisieren();
 }
 
+// The rows of every subsystem, in the order the menus show them within a rank, and the handlers
+// that open this frame's windows.
+void mdiQUOR::BefehleRegistrieren() {
+  BefehlsRegister& r = logik_->Befehle;
+  RegistriereStoffBefehle(r);
+  RegistriereDatenBefehle(r);
+  RegistriereDiagrammBefehle(r);
+  RegistriereRechenBefehle(r);
+  RechenHandlerSetzen(r, [this](const std::string& name, int index) { rechnung_->Menue(name, index); });
+  r.Handler("frmReferenz", [this](int) { rechnung_->ReferenzZeigen(); });
+  r.Handler("mnuStoffwahl", [this](int) { StoffWahlZeigen(); });
+  r.Handler("mnuModel", [this](int) { ModellFensterZeigen(false); });
+  r.Handler("mnuOptions", [this](int) { OptionenZeigen(*this, state_, ui_); });
+  r.Handler("mnuWindow_Kaskade", [this](int) { mdi_->cascadeSubWindows(); });
+  r.Handler("mnuWindow_Nebeneinander", [this](int) { mdi_->tileSubWindows(); });
+  r.Handler("mnuData_Exit", [this](int) { close(); }); // the closing ends the session
+  for (const char* menue : {"mnu2D", "mnuCalcMenue", "mnuCalc_sub_database"})
+    r.Handler(menue, [](int) {});
+}
+
 void mdiQUOR::BaueMenues() {
-  QSet<QString> eltern;
-  for (const MenueZeile& z : MenueTabelle())
-    if (*z.eltern) eltern.insert(Schluessel(z.eltern, z.elternIndex));
-  for (const MenueZeile& z : MenueTabelle()) {
-    const QString name = QString::fromUtf8(z.name);
-    const QString text = QString::fromUtf8(z.text);
-    const QString schluessel = Schluessel(name, z.index);
-    QWidget* behaelter = *z.eltern ? static_cast<QWidget*>(menues_.value(Schluessel(z.eltern, z.elternIndex)))
-                                   : static_cast<QWidget*>(menuBar());
+  BaueMenue(menuBar(), "", -1);
+}
+
+void mdiQUOR::BaueMenue(QWidget* behaelter, const std::string& eltern, int elternIndex) {
+  const BefehlsRegister& r = logik_->Befehle;
+  for (const BefehlsZeile* z : r.Kinder(eltern, elternIndex)) {
+    const QString name = QString::fromStdString(z->name);
+    const QString text = QString::fromStdString(z->text);
     QAction* aktion = nullptr;
-    if (text == "-") {
+    if (z->Trenner()) {
       aktion = new QAction(this);
       aktion->setSeparator(true);
-    } else if (eltern.contains(schluessel)) {
+    } else if (r.IstMenue(z->name, z->index)) {
       auto* menue = new QMenu(text, behaelter);
       menue->setObjectName(name);
-      menue->setProperty("index", z.index);
-      menues_.insert(schluessel, menue);
+      menue->setProperty("index", z->index);
+      menues_.insert(Schluessel(name, z->index), menue);
       aktion = menue->menuAction();
+      BaueMenue(menue, z->name, z->index);
     } else {
       aktion = new QAction(text, this);
       connect(aktion, &QAction::triggered, this,
-              [this, name, index = z.index] { BefehlAusloesen(name, index); });
+              [this, name, index = z->index] { BefehlAusloesen(name, index); });
     }
     aktion->setObjectName(name);
-    aktion->setProperty("index", z.index);
+    aktion->setProperty("index", z->index);
     behaelter->addAction(aktion);
-    if (!name.isEmpty()) befehle_.insert(schluessel, aktion);
+    if (!name.isEmpty()) befehle_.insert(Schluessel(name, z->index), aktion);
   }
 }
 
 void mdiQUOR::BaueToolbar() {
-  auto* leiste = addToolBar("Toolbar1");
-  leiste->setObjectName("Toolbar1");
+  auto* leiste = addToolBar(ToolbarName);
+  leiste->setObjectName(ToolbarName);
   leiste->setMovable(false);
   leiste->setIconSize(QSize(24, 24));
+  // The buttons stand at their indices; the places between them are separators.
+  const auto knoepfe = logik_->Befehle.Kinder(ToolbarName);
+  const int letzter = knoepfe.empty() ? -1 : knoepfe.back()->index;
   bool vorherTrenner = true;
-  for (const ToolbarKnopf& k : ToolbarTabelle()) {
+  for (int i = 0; i <= letzter; ++i) {
+    const BefehlsZeile* knopf = logik_->Befehle.Finde(ToolbarName, i);
     QAction* aktion = nullptr;
-    if (!k.tipp) {
+    if (!knopf) {
       aktion = leiste->addSeparator();
       aktion->setVisible(!vorherTrenner); // a run of unnamed places shows as one separator
       vorherTrenner = true;
     } else {
-      aktion = leiste->addAction(ToolbarSymbol(k.index, style()), QString());
-      aktion->setToolTip(QString::fromUtf8(k.tipp));
-      connect(aktion, &QAction::triggered, this, [this, i = k.index] {
-        logik_->Ausfuehren(ToolbarName, i);
-        Aktualisieren();
-      });
+      aktion = leiste->addAction(ToolbarSymbol(i, style()), QString());
+      aktion->setToolTip(QString::fromStdString(knopf->text));
+      connect(aktion, &QAction::triggered, this, [this, i] { BefehlAusloesen(ToolbarName, i); });
       vorherTrenner = false;
     }
-    aktion->setObjectName(Schluessel("Toolbar1", k.index));
-    aktion->setProperty("index", k.index);
+    aktion->setObjectName(Schluessel(ToolbarName, i));
+    aktion->setProperty("index", i);
     knoepfe_.push_back(aktion);
   }
   auto* abstand = new QWidget(leiste);
@@ -173,16 +194,18 @@ QString mdiQUOR::StatusText(int panel) const {
 }
 
 void mdiQUOR::Aktualisieren() {
+  const BefehlsRegister& r = logik_->Befehle;
   for (auto it = befehle_.cbegin(); it != befehle_.cend(); ++it) {
     QAction* a = it.value();
     if (a->isSeparator()) continue;
     const std::string name = a->objectName().toStdString();
     const int index = a->property("index").toInt();
+    const BefehlsZeile* z = r.Finde(name, index);
+    if (!z) continue;
+    a->setText(QString::fromStdString(z->textVon ? z->textVon(state_) : z->text));
     // A submenu opens whenever its needs are met, so that its entries show even when disabled.
-    a->setEnabled(a->menu() ? BedarfErfuellt(state_, name, index) : logik_->Freigegeben(name, index));
+    a->setEnabled(a->menu() ? r.BedarfErfuellt(state_, name, index) : r.Freigegeben(state_, name, index));
   }
-  if (QAction* virial = Befehl("mnuCalc", 18))
-    virial->setText(QString::fromStdString(logik_->VirialEintragText()));
   for (QAction* k : knoepfe_)
     if (!k->isSeparator()) k->setEnabled(logik_->Freigegeben(ToolbarName, k->property("index").toInt()));
   for (int i = 1; i <= 4; ++i)
@@ -203,19 +226,8 @@ void mdiQUOR::AmpelZeigen() {
 }
 
 void mdiQUOR::BefehlAusloesen(const QString& name, int index) {
-  if (name == "mnuWindow_Kaskade") {
-    mdi_->cascadeSubWindows();
-  } else if (name == "mnuWindow_Nebeneinander") {
-    mdi_->tileSubWindows();
-  } else if (name == "mnuData_Exit") {
-    close();
-    return;
-  } else if (name == "mnuModel" && modell_) {
-    ModellFensterZeigen(false);
-  } else {
-    logik_->Ausfuehren(name.toStdString(), index);
-  }
-  Aktualisieren();
+  logik_->Ausfuehren(name.toStdString(), index);
+  if (!logik_->Beendet()) Aktualisieren();
 }
 
 void mdiQUOR::StoffWahlZeigen() {

@@ -60,7 +60,9 @@ protected:
 
 private:
   RahmenDienste Dienste();
+  void BefehleRegistrieren();
   void BaueMenues();
+  void BaueMenue(QWidget* behaelter, const std::string& eltern, int elternIndex);
   void BaueToolbar();
   void BaueStatusleiste();
   void BefehlAusloesen(const QString& name, int index);

@@ -1,14 +1,13 @@
 #include "gui/frame/projekt_dialog_dienste.h"
 
 #include "core/projekt_datei.h"
-#include "substance/projekt_laden.h"
 #include "gui/frame/mdi_quor.h"
-#include "gui/substance/modell_fenster.h"
 #include "gui/frame/optionen_fenster.h"
 #include "gui/frame/projekt_dialog.h"
+#include "gui/substance/modell_fenster.h"
 #include "gui/substance/stoff_wahl_fenster.h"
+#include "substance/projekt_laden.h"
 
-#include <QAction>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -18,7 +17,7 @@ namespace {
 
 void MenueTexteSetzen(mdiQUOR& rahmen, const OptionenAktionen& a) {
   for (const auto& [eintrag, text] : a.CalcMenueTexte)
-    if (QAction* befehl = rahmen.Befehl("mnuCalc", eintrag)) befehl->setText(QString::fromStdString(text));
+    rahmen.Logik().Befehle.SetzeText("mnuCalc", eintrag, text);
   // Clearing the 2D diagram on a change of units waits for the diagram window.
   rahmen.Aktualisieren();
 }
@@ -54,12 +53,14 @@ void ProjektFensterDienste(RahmenDienste& d, mdiQUOR& rahmen, ProjectState& s, O
     return ProjektDateiWaehlen(st, ui, &rahmen, titel, muster);
   };
   d.DialogeSchliessen = [&rahmen] { FensterSchliessen(rahmen); };
-  d.OptionenZeigen = [&rahmen, &s, &ui, referenz = d.ReferenzZeigen] {
-    auto* fenster = new OptionenFenster(
-        s, ui, [&rahmen](const OptionenAktionen& a) { MenueTexteSetzen(rahmen, a); }, referenz, &rahmen);
-    fenster->setAttribute(Qt::WA_DeleteOnClose);
-    fenster->open();
-  };
+}
+
+void OptionenZeigen(mdiQUOR& rahmen, ProjectState& s, Oberflaeche& ui) {
+  auto* fenster = new OptionenFenster(
+      s, ui, [&rahmen](const OptionenAktionen& a) { MenueTexteSetzen(rahmen, a); },
+      [&rahmen] { rahmen.Logik().Befehle.Ausloesen("frmReferenz"); }, &rahmen);
+  fenster->setAttribute(Qt::WA_DeleteOnClose);
+  fenster->open();
 }
 
 } // namespace quor::ui

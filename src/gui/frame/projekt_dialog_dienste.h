@@ -14,4 +14,7 @@ void ProjektDiensteOhneFenster(RahmenDienste& d, Oberflaeche& ui);
 
 void ProjektFensterDienste(RahmenDienste& d, mdiQUOR& rahmen, ProjectState& s, Oberflaeche& ui);
 
+// The options dialog over the frame; its changes of the calculation menu's texts go to the registry.
+void OptionenZeigen(mdiQUOR& rahmen, ProjectState& s, Oberflaeche& ui);
+
 } // namespace quor::ui

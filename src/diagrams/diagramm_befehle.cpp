@@ -1,45 +1,20 @@
-#include "gui/frame/menue_tabelle.h"
+#include "diagrams/diagramm_befehle.h"
 
-namespace quor::ui {
+#include "dienste/oberflaeche.h"
+#include "engine/eos_zeilen.h"
+
+#include <vector>
+
+namespace quor {
 
 namespace {
 
+constexpr const char* NichtMoeglich = "Ausführung nicht möglich";
+// The entry of the vapour-pressure slope among the projections.
+constexpr int AnstiegEintrag = 9;
+
 // clang-format off
-const std::vector<MenueZeile> Zeilen = {
-    // Data, projects, editors
-    {"mnuData", -1, "  &Daten...", "", -1},
-    {"mnuData_OpenBank", 0, "Datenbank *.Q07 öffnen / neues Projekt beginnen", "mnuData", -1},
-    {"mnuData_OpenBank", 1, "-", "mnuData", -1},
-    {"mnuData_OpenBank", 2, "Datenbank *.Q06 öffnen / neues Projekt beginnen", "mnuData", -1},
-    {"", -1, "-", "mnuData", -1},
-    {"mnuProjectStatus", -1, "geladen sind ...  (Info Projekt.Status)", "mnuData", -1},
-    {"", -1, "-", "mnuData", -1},
-    {"mnuData_NewProject", -1, "neues Projekt beginnen", "mnuData", -1},
-    {"mnuData_LoadLastSession", -1, "letzte Sitzung laden", "mnuData", -1},
-    {"mnuData_LoadProject", -1, "ein Projekt laden (*.QC6)", "mnuData", -1},
-    {"mnuData_SaveProject", -1, "aktuelles Projekt speichern (als *.QC6)", "mnuData", -1},
-    {"", -1, "-", "mnuData", -1},
-    {"mnuData_BatchInput", -1, "Editor für exper. Daten T-p-rho-delta(LV)h       NEU (Eingeben | Laden *.BAQ) ", "mnuData", -1},
-    {"mnuData_BatchEdit", -1, "Editor für exper. Daten T-p-rho-delta(LV)h       (Sichten | Editieren)", "mnuData", -1},
-    {"mnuData_EditXY", -1, "Editor für X-Y-Daten (Eingeben | Laden *.XY | Editieren | Zeichnen) ", "mnuData", -1},
-    {"", -1, "-", "mnuData", -1},
-    {"mnuData_EditDatenbank", -1, "Editor für Stoffdatenbank *.Q07 | *.Q06", "mnuData", -1},
-    {"mnuData_Fitting", -1, "Fitting-Tool", "mnuData", -1},
-    {"", -1, "-", "mnuData", -1},
-    {"mnuData_ParameterEOS", -1, "Parameter EOS; berechnetes kritisches Volumen", "mnuData", -1},
-    {"mnuJOBACK", -1, "Abschätzung von Stoffdaten aus Molekül-Strukturgruppen", "mnuData", -1},
-    {"mnuData_Joback_CritData", -1, "kritische Daten T(cr), p(cr), v(cr) und Normalsiedetemperatur", "mnuJOBACK", -1},
-    {"mnuData_JOBACK_bildung", -1, "Bildungsgrößen delta(f)H, delta(f)G", "mnuJOBACK", -1},
-    {"mnuData_JOBACK_cpIdG", -1, "Idealgas-Wärmekapazität cp(idG) = Fu(T)", "mnuJOBACK", -1},
-    {"", -1, "-", "mnuData", -1},
-    {"mnuShowApp_path", -1, "zeige aktuelles Arbeitsverzeichnis für QUOR", "mnuData", -1},
-    {"", -1, "-", "mnuData", -1},
-    {"mnuData_Exit", -1, "E&xit                                            Alt+F4", "mnuData", -1},
-
-    {"mnuStoffwahl", -1, "&Stoffwahl", "", -1},
-    {"mnuModel", -1, "&Modelle", "", -1},
-
-    // 2D diagrams by kind, the database functions and the 3D surfaces
+const std::vector<MenuePosten> Posten = {
     {"mnu2D", -1, "&2D-Diagramme...", "", -1},
     {"mnuGraf", 0, "isotherme, isobare, isochore Schnitte  p, v, T", "mnu2D", -1},
     {"mnuGraf_sub_cut", 1, "isotherm p - v", "mnuGraf", 0},
@@ -158,90 +133,114 @@ const std::vector<MenueZeile> Zeilen = {
     {"mnu3DSub", 8, "Freie Enthalpie       G(p, T)", "mnuGraf", 16},
     {"mnu3DSub", 9, "Exergie von U        EU(p, T)", "mnuGraf", 16},
     {"mnu3DSub", 10, "Exergie von H        EH(p, T)", "mnuGraf", 16},
-
-    // State calculations
-    {"mnuCalcMenue", -1, "&Berechnungen...", "", -1},
-    {"mnuCalc", 0, "T, rho      => p, Zustand L/V    + thermod. Fu.", "mnuCalcMenue", -1},
-    {"mnuCalc", 1, "T, rho(L)  => p, Zustand L/V    + thermod. Fu.", "mnuCalcMenue", -1},
-    {"mnuCalc", 2, "T, p         => rho, Zustand L/V + thermod. Fu.", "mnuCalcMenue", -1},
-    {"mnuCalc", 3, "p, rho      => T, Zustand L/V    + thermod. Fu.", "mnuCalcMenue", -1},
-    {"mnuCalc", 4, "-", "mnuCalcMenue", -1},
-    {"mnuCalc", 5, "L-V-Gleichgewicht: T => p(LV), [rho(L), rho(V)] + Fu. ", "mnuCalcMenue", -1},
-    {"mnuCalc", 6, "L-V-Gleichgewicht: p => T(LV), [rho(L), rho(V)] + Fu.", "mnuCalcMenue", -1},
-    {"mnuCalc", 7, "-", "mnuCalcMenue", -1},
-    {"mnuCalc", 8, "Verdampfungsenthalpie: T => delta(LV)H", "mnuCalcMenue", -1},
-    {"mnuCalc", 9, "Verdampfungsenthalpie: p => delta(LV)H", "mnuCalcMenue", -1},
-    {"mnuCalc", 10, "-", "mnuCalcMenue", -1},
-    {"mnuCalc", 11, "Thermodynam. Funktionen: T, p => H, U, S, G, A, E,  Cp, ...", "mnuCalcMenue", -1},
-    {"mnuCalc", 12, "-", "mnuCalcMenue", -1},
-    {"mnuCalc", 13, "Polytropen-Prozess", "mnuCalcMenue", -1},
-    {"mnuCalc", 14, "-", "mnuCalcMenue", -1},
-    {"mnuCalc", 15, "Behälter  (T, m, V => p, V(L)/V(V)), Global-Berechnungsmethode", "mnuCalcMenue", -1},
-    {"mnuCalc", 16, "Behälter  (T, m, V => p, V(L)/V(V)), Partial-Berechnungsmethode", "mnuCalcMenue", -1},
-    {"mnuCalc", 17, "-", "mnuCalcMenue", -1},
-    {"mnuCalc", 18, "T => 2. Virialkoeffizienten B", "mnuCalcMenue", -1},
-    {"mnuCalc", 19, "-", "mnuCalcMenue", -1},
-    {"mnuCalc_sub_database", -1, "Datenbankfunktionen F(T)", "mnuCalcMenue", -1},
-    {"mnuCalc_sub_database", 0, "Dampfdruck p(LV) = Fu(T)", "mnuCalc_sub_database", -1},
-    {"mnuCalc_sub_sub_database", 0, "erweiterte Frost-Kalkwarf-Gleichung", "mnuCalc_sub_database", 0},
-    {"mnuCalc_sub_sub_database", 1, "Wagner-Gleichung", "mnuCalc_sub_database", 0},
-    {"mnuCalc_sub_sub_database", 2, "Antoine-Gleichung (Lo-p)", "mnuCalc_sub_database", 0},
-    {"mnuCalc_sub_sub_database", 3, "Antoine-Gleichung (Hi-p)", "mnuCalc_sub_database", 0},
-    {"mnuCalc_sub_database", 1, "L-Dichte", "mnuCalc_sub_database", -1},
-    {"mnuCalc_sub_database", 2, "S-Dichte", "mnuCalc_sub_database", -1},
-    {"mnuCalc_sub_database", 3, "Verdampfungsenthalpie", "mnuCalc_sub_database", -1},
-    {"mnuCalc_sub_database", 4, "Idealgas-Wärmekapazität", "mnuCalc_sub_database", -1},
-    {"mnuCalc_sub_database", 5, "L-Wärmekapazität", "mnuCalc_sub_database", -1},
-    {"mnuCalc_sub_database", 6, "S-Wärmekapazität", "mnuCalc_sub_database", -1},
-
-    {"mnuFitting", -1, "&Fitting", "", -1},
-    {"mnuTavik1W", -1, "&Einheiten umrechnen", "", -1},
-    {"mnuOptions", -1, "&Optionen", "", -1},
-    {"mnuWindow", -1, "Fenster...", "", -1},
-    {"mnuWindow_Kaskade", -1, "überlappend anordnen", "mnuWindow", -1},
-    {"mnuWindow_Nebeneinander", -1, "nebeneinander anordnen", "mnuWindow", -1},
-
-    {"mnuHilfe", -1, "&Info/Hilfe...", "", -1},
-    {"mnuHilfe_Inhalt", -1, "Hilfe: Inhaltsübersicht", "mnuHilfe", -1},
-    {"mnuHilfe_Erstnutzer", -1, "Erste Schritte (für Erstnutzer)", "mnuHilfe", -1},
-    {"mnuHilfe_RechenUebung", -1, "Rechenübung: ein Beispiel Schritt für Schritt", "mnuHilfe", -1},
-    {"mnuHilfe_Tipps", -1, "Tipps zu Modellen und Konzepten", "mnuHilfe", -1},
-    {"mnuHilfeHinweis", -1, "Hinweis zur HTML-Hilfe", "mnuHilfe", -1},
-    {"", -1, "-", "mnuHilfe", -1},
-    {"mnuHilfe_About", -1, "Über das Programm", "mnuHilfe", -1},
-};
-
-const std::vector<ToolbarKnopf> Knoepfe = {
-    {2, " neues Projekt "},
-    {4, " letzte Sitzung laden "},
-    {6, " existierendes Projekt  *.QC6 laden "},
-    {8, " aktuelles Projekt speichern  als *.QC6 "},
-    {11, " Normierung für thermodynamische Funktionen "},
-    {15, " Behälterber., GLOBAL oder PARTIAL => \"Modelle\"    "},
-    {20, " exper. Daten NEU eingeben/laden "},
-    {22, " Editor für exper. Daten, Fitting "},
-    {26, "  X-Y-Editor "},
-    {28, " Datenbank-Editor, Synonym-Liste "},
-    {32, " Projekt-Info "},
 };
 // clang-format on
 
+bool Kubisch(const ProjectState& s) {
+  return eos::KubischGewaehlt(s.Modell);
+}
+
+// The database function behind an entry of the database submenus is there (entries without one,
+// and the heat capacities that refuse with their own message, count as there).
+bool FunktionDa(const ProjectState& s, const std::string& name, int index) {
+  const StoffGruppe& st = s.Stoff;
+  if (name == "mnuGraf_sub_sub_database") {
+    switch (index) {
+    case 0:
+      return st.FrostKalkwarfGrenzen.Vorhanden();
+    case 1:
+      return st.WagnerGrenzen.Vorhanden();
+    case 2:
+      return st.AntoineNdGrenzen.Vorhanden();
+    case 3:
+      return st.AntoineHdGrenzen.Vorhanden();
+    default:
+      return true;
+    }
+  }
+  switch (index) {
+  case 0:
+  case 2:
+    return st.RhoLGrenzen.Vorhanden();
+  case 1:
+    return st.RhoSGrenzen.Vorhanden();
+  case 7:
+    return st.HLVGrenzen.Vorhanden();
+  default:
+    return true;
+  }
+}
+
+unsigned BedarfVon(const MenuePosten& p) {
+  const std::string name = p.name;
+  if (name == "mnu2D") return BrauchtModell;
+  if (name == "mnuGraf_sub_database" || name == "mnuGraf_sub_sub_database" ||
+      (name == "mnuGraf" && p.index == 14))
+    return BrauchtDiagramme;
+  return BrauchtDiagramme | BrauchtKritischenPunkt;
+}
+
+// A heat-capacity function of the database that the substance lacks; empty when it has it.
+std::string FehlendeFunktion(const StoffGruppe& st, int index) {
+  switch (index) {
+  case 3:
+    return st.CpPolyOK ? "" : "für diesen Stoff ist keine Polynom-Funktion cpIdG)= Fu(T) verfügbar.";
+  case 4:
+    return st.CpSinhOK ? "" : "für diesen Stoff ist keine sinh/cosh-Funktion cpIdG)= Fu(T) verfügbar.";
+  case 5:
+    return st.CpLOK ? "" : "für diesen Stoff ist keine Funktion cp(L)= Fu(T) verfügbar.";
+  case 6:
+    return st.CpSOK ? "" : "für diesen Stoff ist keine Funktion cp(S)= Fu(T) verfügbar.";
+  default:
+    return "";
+  }
+}
+
 } // namespace
 
-const std::vector<MenueZeile>& MenueTabelle() {
-  return Zeilen;
+void RegistriereDiagrammBefehle(BefehlsRegister& r) {
+  for (const MenuePosten& p : Posten) {
+    BefehlsZeile z = ZeileVon(p, p.eltern[0] ? 0 : rang::Diagramme, BedarfVon(p));
+    const std::string name = p.name;
+    if ((name == "mnuGraf_sub_database" || name == "mnuGraf_sub_sub_database") && p.index >= 0)
+      z.verfuegbar = [name, index = p.index](const ProjectState& s) { return FunktionDa(s, name, index); };
+    r.Registriere(std::move(z));
+  }
 }
 
-const std::vector<ToolbarKnopf>& ToolbarTabelle() {
-  static const std::vector<ToolbarKnopf> alle = [] {
-    std::vector<ToolbarKnopf> k;
-    for (int i = 0; i <= 32; ++i)
-      k.push_back({i, nullptr});
-    for (const ToolbarKnopf& b : Knoepfe)
-      k[b.index] = b;
-    return k;
-  }();
-  return alle;
+bool GrafErlaubt(const ProjectState& s, ui::Oberflaeche& ui, const std::string& name, int index) {
+  if (name == "mnuGraf_sub_proj") {
+    if (!Kubisch(s)) {
+      ui.Meldung("Phasengleichgewichts-Berechnungen sind nur mit einer kubischen Zustandsgleichung möglich",
+                 NichtMoeglich, ui::Symbol::Ausruf);
+      return false;
+    }
+    if (index == AnstiegEintrag && s.Modell.KonzeptGlobal) {
+      ui.Meldung("nur für Dampfdruckgleichungen entspr. \"Modelle\" möglich (PARTIAL-Konzept),\r\n"
+                 "nicht für die Dampfdruckberechnung mittels CEOS (GLOBAL-Konzept)\r\n"
+                 "Ändern Sie unter \"Modelle\" auf PARTIAL-Konzept",
+                 NichtMoeglich, ui::Symbol::Ausruf);
+      return false;
+    }
+  }
+  if (name == "mnuGraf_sub_FuT" && s.Modell.CpIndex < 1) {
+    ui.Meldung("es stehen keine cp(idG)-Modellparameter zur Verfügung", NichtMoeglich, ui::Symbol::Ausruf);
+    return false;
+  }
+  if (name == "mnuGraf_sub_database") {
+    const std::string fehlt = FehlendeFunktion(s.Stoff, index);
+    if (!fehlt.empty()) {
+      ui.Meldung(fehlt, NichtMoeglich, ui::Symbol::Ausruf);
+      return false;
+    }
+  }
+  return true;
 }
 
-} // namespace quor::ui
+bool Reales3D(const ProjectState& s, ui::Oberflaeche& ui, int art) {
+  if ((art != 1 && art != 3) || !Kubisch(s)) return true;
+  return ui.Frage("Reales Verhalten zeichnen?\r\n(Nein = Zeichnen von S-Kurven im unterkritischen Bereich)",
+                  "nur für kubische EOS", ui::Knoepfe::JaNein, ui::Antwort::Ja) == ui::Antwort::Ja;
+}
+
+} // namespace quor
