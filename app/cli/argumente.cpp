@@ -1,7 +1,9 @@
 #include "cli/argumente.h"
 
 #include "cli/fehler.h"
+#include "core/rechen_art.h"
 #include "core/zahl_lesen.h"
+#include "engine/eos_zeilen.h"
 
 #include <algorithm>
 #include <cctype>
@@ -120,9 +122,9 @@ std::array<std::string, 4> Bezugspunkt(const std::string& text) {
   return werte;
 }
 
-bool ArtErlaubt(const std::string& befehl, int art) {
-  if (art < 1 || art > 24 || art == 12 || art == 23) return false;
-  return befehl != "batch" || (art != 9 && art != 10);
+bool ArtErlaubt(const std::string& befehl, int a) {
+  if (a < art::TRhoV || a > art::DbRhoS || a == art::Polytrope || a == art::OhneZweig) return false;
+  return befehl != "batch" || !art::IstBehaelter(a);
 }
 
 } // namespace
@@ -173,7 +175,7 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   if (mitArt) {
     if (positionen.size() < 2)
       throw Eingabefehler(a.Befehl + " needs the kind of calculation (see quor-cli --help)");
-    a.Art = Ganzzahl("kind", positionen[1], 1, 24);
+    a.Art = Ganzzahl("kind", positionen[1], art::TRhoV, art::DbRhoS);
     if (!ArtErlaubt(a.Befehl, a.Art))
       throw Eingabefehler("kind " + positionen[1] + " is not available for " + a.Befehl);
   }
@@ -191,7 +193,7 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
 
   if (hat("--db")) a.Datenbank = wert("--db");
   if (hat("--substance")) a.Stoff = wert("--substance");
-  if (hat("--eos")) a.EOS = Ganzzahl("--eos", wert("--eos"), 0, 16);
+  if (hat("--eos")) a.EOS = Ganzzahl("--eos", wert("--eos"), eos::Idealgas, eos::VirialPitzerCurl);
   if (hat("--vapour-pressure")) a.Dampfdruck = Ganzzahl("--vapour-pressure", wert("--vapour-pressure"), 0, 8);
   if (hat("--hlv")) a.HLV = Ganzzahl("--hlv", wert("--hlv"), 0, 7);
   if (hat("--cp")) a.Cp = Ganzzahl("--cp", wert("--cp"), 0, 2);

@@ -8,6 +8,7 @@
 #include "cli/steuerung.h"
 #include "core/datei_io.h"
 #include "core/festtext.h"
+#include "core/rechen_art.h"
 #include "core/zahlformat.h"
 
 #include <cmath>
@@ -35,7 +36,7 @@ std::string RoterText(const ErgebnisSeite& seite) {
 }
 
 // One line of a point: its number and phase, the given T and p, then every calculated value.
-std::string PunktZeile(int16_t art, const PunktErgebnis& e) {
+std::string PunktZeile(int16_t rechenArt, const PunktErgebnis& e) {
   std::string z = RechtsBuendig(std::to_string(e.punkt), 5) + "  " + (e.ok ? e.satz.Phase : "---") + " ";
   auto wert = [&z](const char* name, double x, const char* einheit) {
     if (std::fabs(x) > 1e-6)
@@ -45,7 +46,7 @@ std::string PunktZeile(int16_t art, const PunktErgebnis& e) {
   wert("p", e.vorgabe.p, " kPa");
   if (!e.ok) return z + "  " + (e.fehlerText.empty() ? "kein Ergebnis" : e.fehlerText);
   const StapelErgebnis& s = e.satz;
-  if (art == 8) {
+  if (rechenArt == art::Funktionen) {
     wert("h", s.hFu, "");
     wert("s", s.sFu, "");
     wert("g", s.gFu, "");

@@ -2,7 +2,9 @@
 #include "calc/bericht_zeilen.h"
 #include "calc/protokoll.h"
 #include "core/festtext.h"
+#include "core/rechen_art.h"
 #include "core/zahlformat.h"
+#include "engine/eos_zeilen.h"
 
 #include <array>
 #include <cmath>
@@ -83,7 +85,7 @@ public:
     Spaltenkopf();
     for (int n = 1; n <= k_.AnzahlPunkte && n < static_cast<int>(k_.StapelErgebnisse.size()); ++n)
       if (k_.StapelErgebnisse[n].Phase != "   ") Punkt(n);
-    if (a_.Art == 8) return z_;
+    if (a_.Art == art::Funktionen) return z_;
     Mittelwerte();
     Leer(2);
     if (a_.MitDetails) Details();
@@ -113,11 +115,11 @@ private:
     Feld(t_.stoff, s_.Stoff.StoffName);
     Feld(t_.rechnung, a_.Titel);
     const bool partial = !s_.Modell.RechnungGlobal;
-    if (a_.Art == 4 || a_.Art == 5) {
+    if (art::IstGleichgewicht(a_.Art)) {
       Zeile({{26, t_.verdampfung}});
       if (partial) Zeile({{26, t_.benson}});
     }
-    const bool mitEOS = s_.Modell.EOSIndex >= 0;
+    const bool mitEOS = eos::IstGewaehlt(s_.Modell.EOSIndex);
     if (mitEOS) Feld(t_.modell, ModellText(s_));
     if (partial || !mitEOS) Feld(t_.dampfdruck, DampfdruckText());
     Feld(t_.anzahl, std::to_string(k_.AnzahlPunkte));
@@ -160,7 +162,7 @@ private:
            {32, SingleText(d.RhoV)},
            {46, SingleText(d.RhoL)},
            {60, SingleText(d.HLV)}});
-    if (a_.Art == 8) {
+    if (a_.Art == art::Funktionen) {
       FunktionsWerte(e);
     } else {
       const std::array<double, 5> exp{d.T, d.p, d.RhoV, d.RhoL, d.HLV};

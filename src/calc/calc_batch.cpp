@@ -3,6 +3,7 @@
 #include "calc/calc_batch.h"
 
 #include "calc/calc_batch_intern.h"
+#include "engine/korrelationen.h"
 #include "engine/numerik.h"
 
 #include <cmath>
@@ -49,39 +50,39 @@ void Prolog(Lauf& l) {
 
 void Verzweige(Lauf& l) {
   switch (l.art) {
-  case 1:
-  case 2:
-  case 9:
-  case 10:
+  case art::TRhoV:
+  case art::TRhoL:
+  case art::BehaelterGlobal:
+  case art::BehaelterPartial:
     Art1Bis2(l);
     break;
-  case 3:
+  case art::Tp:
     Art3(l);
     break;
-  case 13:
+  case art::pRho:
     Art13(l);
     break;
-  case 4:
+  case art::TzuPLV:
     Art4(l);
     break;
-  case 5:
+  case art::PzuTLV:
     Art5(l);
     break;
-  case 6:
-  case 7:
+  case art::HLVvonT:
+  case art::HLVvonP:
     Art6Bis7(l);
     break;
-  case 8:
+  case art::Funktionen:
     Art8(l);
     break;
-  case 11:
+  case art::Virial:
     Art11(l);
     break;
-  case 12:
+  case art::Polytrope:
     Art12(l);
     break;
   default:
-    if (l.art >= 14 && l.art <= 24 && l.art != 23) Datenbank(l);
+    if (art::IstDatenbank(l.art) && l.art != art::OhneZweig) Datenbank(l);
   }
 }
 
@@ -113,9 +114,9 @@ bool DiagnoseMoeglich(const Lauf& l) {
   const int16_t a = l.art;
   const ModelSelection& m = l.s.Modell;
   if (l.k.ErrorFlag || !l.Kubisch() || !(l.k.HatV || l.k.HatL)) return false;
-  if (a == 11 || a == 12 || (a >= 14 && a <= 22)) return false;
-  if ((a == 4 || a == 5) && !m.RechnungGlobal) return false;
-  if ((a == 6 || a == 7) && m.HLVIndex != 7) return false;
+  if (a == art::Virial || a == art::Polytrope || (a >= art::DbRhoL && a <= art::DbAntoineHd)) return false;
+  if (art::IstGleichgewicht(a) && !m.RechnungGlobal) return false;
+  if (art::IstVerdampfung(a) && m.HLVIndex != HLVAusKubischerEOS) return false;
   return true;
 }
 

@@ -49,7 +49,7 @@ void Dichte(Lauf& l, Auswertung& a) {
   a.einheit = " kg/m^3";
   a.wert = RhoL(l.s, l.T, false, a.failed);
   if (!(a.wert > 1e-6)) a.failed = -1;
-  if (l.art == 14) {
+  if (l.art == art::DbRhoL) {
     a.label = " rho(L) = ";
     DichteGrenzen(a, st.RhoLGrenzen, st.RhoL[0], l.T);
     if (a.failed == 0) {
@@ -70,16 +70,16 @@ void Waerme(Lauf& l, Auswertung& a) {
   a.einheit = einheiten[mode >= 0 && mode <= 3 ? mode : 0];
   const double E = s.Einheiten.EnergieFaktor;
   switch (l.art) {
-  case 16: {
+  case art::DbCpIdG: {
     a.label = " cp_IdGas = ";
     const int16_t kind = s.Modell.CpIndex;
     a.wert = cpIdealgas(s, l.T, kind, a.failed) * E;
-    if (kind == 1) Grenzen(a, s.Stoff.CpPolyGrenzen);
-    if (kind == 2) Grenzen(a, s.Stoff.CpSinhGrenzen);
+    if (kind == CpPolynom) Grenzen(a, s.Stoff.CpPolyGrenzen);
+    if (kind == CpSinhCosh) Grenzen(a, s.Stoff.CpSinhGrenzen);
     if (a.failed == 0) l.Zelle(ZelleCpIdG) = a.wert;
     break;
   }
-  case 17:
+  case art::DbCpL:
     a.label = " cp(L) = ";
     a.wert = cpFluessig(s, l.T, a.failed) * E;
     Grenzen(a, s.Stoff.CpLGrenzen);
@@ -114,17 +114,17 @@ void Dampfdruck(Lauf& l, Auswertung& a) {
   const StoffGruppe& st = l.s.Stoff;
   int index = 0;
   switch (l.art) {
-  case 19:
+  case art::DbFrostKalkwarf:
     a.label = " p(LV), erw. Frost-Kalkwarf = ";
     index = FrostKalkwarfDB;
     Grenzen(a, st.FrostKalkwarfGrenzen);
     break;
-  case 20:
+  case art::DbWagner:
     a.label = " p(LV), Wagner = ";
     index = WagnerDB;
     Grenzen(a, st.WagnerGrenzen);
     break;
-  case 21:
+  case art::DbAntoineNd:
     a.label = " p(LV), Antoine (Lo-p) = ";
     index = AntoineNiederdruck;
     Grenzen(a, st.AntoineNdGrenzen);
@@ -150,7 +150,7 @@ void Art11(Lauf& l) {
   l.Zeile(std::string(Utf8Laenge(kopf), '='));
   // The rows' set-ups overwrite the constants of the chosen model, which stays in force afterwards.
   const EOSGruppe gewaehlt = s.EOS;
-  for (int16_t zeile = 11; zeile <= 16; ++zeile) {
+  for (int16_t zeile = eos::VirialVanDerWaals; zeile <= eos::VirialPitzerCurl; ++zeile) {
     int16_t err = 0;
     EOSParameterSetup(s, l.ui, zeile, err);
     // The row texts keep their width, so that the values stand in one column.
@@ -176,16 +176,16 @@ void Datenbank(Lauf& l) {
   if (!HoleT(l, l.seite.par1)) return;
   Auswertung a;
   switch (l.art) {
-  case 14:
-  case 24:
+  case art::DbRhoL:
+  case art::DbRhoS:
     Dichte(l, a);
     break;
-  case 15:
+  case art::DbHLV:
     Verdampfung(l, a);
     break;
-  case 16:
-  case 17:
-  case 18:
+  case art::DbCpIdG:
+  case art::DbCpL:
+  case art::DbCpS:
     Waerme(l, a);
     break;
   default:
@@ -206,7 +206,7 @@ void Datenbank(Lauf& l) {
   seite.par1.text = TText(l, l.T);
   seite.co1.text = std::string(" Berechnung aus der Datenbankfunktion ") + a.label + " Fu(T)";
   seite.txtco2.text = a.label + Einzel(l, a.wert) + a.einheit;
-  if (l.art == 14 || l.art == 24) {
+  if (l.art == art::DbRhoL || l.art == art::DbRhoS) {
     const double M = l.s.Stoff.MolMasse, v = M / a.wert;
     l.Zeile(std::string(12, ' ') + "v  /m^3/kmol = " + Fmt(l, v, "##0.000###"));
     l.Zeile(std::string(12, ' ') + "v  /m^3/kg   = " + Fmt(l, v / M, "##0.000###"));

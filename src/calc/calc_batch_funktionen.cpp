@@ -6,6 +6,7 @@
 #include "core/festtext.h"
 #include "engine/ableitungen.h"
 #include "engine/eos_auswertung.h"
+#include "engine/korrelationen.h"
 #include "engine/numerik.h"
 #include "engine/virial.h"
 
@@ -225,7 +226,7 @@ void Art8(Lauf& l) {
 }
 
 void ResidualBlock(Lauf& l) {
-  if (l.k.Abschnitte <= 1 || l.art == 6 || l.art == 7) return;
+  if (l.k.Abschnitte <= 1 || art::IstVerdampfung(l.art)) return;
   const std::array<bool, 2> da = PhasenDa(l);
   if (!da[PhaseL] && !da[PhaseV]) return;
   ResidualTabellen r;
@@ -258,9 +259,9 @@ void FunktionenBlock(Lauf& l) {
 void ParameterBlock(Lauf& l) {
   ProjectState& s = l.s;
   const int16_t a = l.art;
-  const bool datenbank = a >= 14 && a <= 24;
-  const bool hlvOhneEOS = (a == 6 || a == 7) && s.Modell.HLVIndex != 7;
-  if (l.Kubisch() && l.T > 1e-6 && a != 12 && !datenbank && !hlvOhneEOS) {
+  const bool datenbank = art::IstDatenbank(a);
+  const bool hlvOhneEOS = art::IstVerdampfung(a) && s.Modell.HLVIndex != HLVAusKubischerEOS;
+  if (l.Kubisch() && l.T > 1e-6 && a != art::Polytrope && !datenbank && !hlvOhneEOS) {
     EOSbeiT(s, l.T);
     const std::string kopf = "Parameter der generalisierten kub. EOS (" + EOSText(s) + "):";
     l.Zeile(kopf);
@@ -269,8 +270,8 @@ void ParameterBlock(Lauf& l) {
     l.Zeile("  B =" + MitVorzeichenPlatz(l, s.EOS.bT));
     l.Zeile("  C =" + MitVorzeichenPlatz(l, s.EOS.cT));
     l.Zeile("  D =" + MitVorzeichenPlatz(l, s.EOS.dT));
-  } else if (s.Modell.VirialFlag && s.Modell.EOSIndex >= 0 && (l.k.HatV || l.k.HatL) && a != 11 && a != 12 &&
-             !datenbank) {
+  } else if (s.Modell.VirialFlag && eos::IstGewaehlt(s.Modell.EOSIndex) && (l.k.HatV || l.k.HatL) &&
+             a != art::Virial && a != art::Polytrope && !datenbank) {
     l.Zeile("Virialkoeffizient (" + EOSText(s) + "):");
     l.Zeile("  B =" + MitVorzeichenPlatz(l, BvonT(s, s.Modell.EOSIndex, l.T)) + " m^3/kmol");
   }

@@ -41,7 +41,7 @@ double PartialDampfVolumen(Lauf& l) {
 // PARTIAL densities: the vapour from the EOS, the liquid from Benson or the database function.
 void PartialDichten(Lauf& l, const char* datenbankText) {
   const double V = PartialDampfVolumen(l);
-  if (!(l.s.Modell.EOSIndex >= 0 && V > 1e-6)) return;
+  if (!(eos::IstGewaehlt(l.s.Modell.EOSIndex) && V > 1e-6)) return;
   const double M = l.s.Stoff.MolMasse;
   l.vV = V;
   l.rhoV = M / V;
@@ -78,8 +78,9 @@ void VerdampfungsenthalpieEOS(Lauf& l) {
   HLVErgebnis erg;
   int16_t failed = 0;
   const ExpDatenSatz punkt = Datenpunkt(l);
-  const double h = HLVBerechnen(s, HLVAusKubischerEOS, T, p, s.Modell.DampfdruckIndex, hlv == 5 || hlv == 6,
-                                erg, failed, &l.ui, HLVDatenpunkt{punkt.T, punkt.p});
+  const double h = HLVBerechnen(s, HLVAusKubischerEOS, T, p, s.Modell.DampfdruckIndex,
+                                hlv == HLVAusRhoL || hlv == HLVAusBenson, erg, failed, &l.ui,
+                                HLVDatenpunkt{punkt.T, punkt.p});
   if (!(std::fabs(h) < 1e30)) return;
   l.Zelle(ZelleDhLV) = h * s.Einheiten.EnergieFaktor;
   if (l.T > 0) l.Zelle(ZelleDsLV) = l.Zelle(ZelleDhLV) / l.T;
@@ -162,15 +163,15 @@ void EnthalpieText(Lauf& l, double h, const HLVErgebnis& erg) {
   l.Zeile("(Verdampfungsentropie delta(LV)s = delta(LV)h / T:");
   l.Zeile(std::string(sLabel[m]) + " = " + Einzel(l, dh / l.T) + ")");
   const int16_t hlv = s.Modell.HLVIndex;
-  if (hlv == 5 || hlv == 6) {
+  if (hlv == HLVAusRhoL || hlv == HLVAusBenson) {
     l.Zeile("es wurden folgende Kompressibilitätsfaktoren z benutzt:");
     l.Zeile(std::string(13, ' ') + "z(L) = " + Einzel(l, erg.zL) + std::string(16, ' ') +
             "z(V) = " + Einzel(l, erg.zV));
     l.Zeile("z(V) von " + EOSText(s));
-    l.Zeile(hlv == 6 ? "rho(L) für z(L)-Berechnung nach MATHIAS/CAILLETET/BENSON"
-                     : "rho(L) für z(L)-Berechnung aus Datenbankfunktion rho(L) = Fu(T)");
+    l.Zeile(hlv == HLVAusBenson ? "rho(L) für z(L)-Berechnung nach MATHIAS/CAILLETET/BENSON"
+                                : "rho(L) für z(L)-Berechnung aus Datenbankfunktion rho(L) = Fu(T)");
   }
-  if (hlv != 1) {
+  if (hlv != HLVGleichung) {
     int16_t failed = 0;
     const double hDb = HLVFu(s, l.T, failed);
     const TGrenzen g = s.Stoff.HLVGrenzen;
@@ -184,7 +185,7 @@ void EnthalpieText(Lauf& l, double h, const HLVErgebnis& erg) {
 void Art4(Lauf& l) {
   ProjectState& s = l.s;
   l.k.HatL = l.k.HatV = true;
-  if (!HoleT(l, l.seite.par1) || s.Modell.EOSIndex < 0) return;
+  if (!HoleT(l, l.seite.par1) || !eos::IstGewaehlt(s.Modell.EOSIndex)) return;
   if (l.T > s.Stoff.TKrit) {
     Fehler(l, l.seite.par1, TText(l, l.T) + " > T(cr) !!!");
     return;
@@ -222,7 +223,7 @@ void Art4(Lauf& l) {
 void Art5(Lauf& l) {
   ProjectState& s = l.s;
   l.k.HatL = l.k.HatV = true;
-  if (!Holep(l, l.seite.par1) || s.Modell.EOSIndex < 0) return;
+  if (!Holep(l, l.seite.par1) || !eos::IstGewaehlt(s.Modell.EOSIndex)) return;
   if (l.p > s.Stoff.pKrit) {
     Fehler(l, l.seite.par1, "p = " + Fmt(l, l.p, "###0.000 kPa") + " > p(cr) !!!");
     return;
@@ -261,7 +262,7 @@ void Art5(Lauf& l) {
 
 void Art6Bis7(Lauf& l) {
   ProjectState& s = l.s;
-  const bool art6 = l.art == 6;
+  const bool art6 = l.art == art::HLVvonT;
   SeitenFeld& par1 = l.seite.par1;
   if (art6) {
     if (!HoleT(l, par1)) return;

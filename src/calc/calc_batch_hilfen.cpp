@@ -94,8 +94,8 @@ bool HoleT(Lauf& l, SeitenFeld& feld, bool warnen) {
   const double T = Datenpunkt(l).T;
   if (!(T >= 1e-6)) return Fehlt(l, feld, "kein T in diesem Datenpunkt");
   const int16_t a = l.art;
-  if (warnen && !l.k.TripelHinweisGezeigt && T < l.s.Stoff.TTripel && l.Kubisch() && a != 16 && a != 18 &&
-      a != 24) {
+  if (warnen && !l.k.TripelHinweisGezeigt && T < l.s.Stoff.TTripel && l.Kubisch() && a != art::DbCpIdG &&
+      a != art::DbCpS && a != art::DbRhoS) {
     l.ui.Meldung("T ist kleiner als Tripelpunkt-Temperatur", "Hinweis", ui::Symbol::Information);
     l.k.TripelHinweisGezeigt = true;
   }
@@ -114,7 +114,7 @@ bool Holep(Lauf& l, SeitenFeld& feld) {
 
 bool HoleRho(Lauf& l, SeitenFeld& feld, double& rho) {
   const ExpDatenSatz z = Datenpunkt(l);
-  rho = l.art == 2 ? z.RhoL : z.RhoV;
+  rho = l.art == art::TRhoL ? z.RhoL : z.RhoV;
   if (!(rho >= 1e-6)) return Fehlt(l, feld, "kein rho in diesem Datenpunkt");
   l.Zelle(ZelleRhoGlobal) = rho;
   l.Zelle(ZelleVGlobal) = l.s.Stoff.MolMasse * l.s.Einheiten.VolumenFaktor / rho;

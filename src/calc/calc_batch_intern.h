@@ -5,8 +5,10 @@
 
 #include "calc/ergebnis_typen.h"
 #include "core/project_state.h"
-#include "engine/kalorik.h"
+#include "core/rechen_art.h"
 #include "dienste/oberflaeche.h"
+#include "engine/eos_zeilen.h"
+#include "engine/kalorik.h"
 
 #include <cstdint>
 #include <string>
@@ -41,7 +43,7 @@ struct Lauf {
        int16_t punkt_)
       : s(s_), ui(ui_), seite(seite_), k(k_), art(art_), punkt(punkt_) {}
 
-  bool Kubisch() const { return s.Modell.EOSIndex >= 0 && !s.Modell.VirialFlag; }
+  bool Kubisch() const { return eos::KubischGewaehlt(s.Modell); }
   void Zeile(const std::string& zeile) { text += zeile + CRLF; }
   double& Zelle(int index) { return k.Ergebnis[index]; }
 };

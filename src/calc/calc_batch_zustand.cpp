@@ -58,7 +58,7 @@ void VirialDruck(Lauf& l, double rho) {
   l.Zelle(ZelleP) = l.p;
   l.satz.Phase = PhasenMarke(l);
   l.satz.pCalc = Einfach(l.p);
-  if (l.art == 9 || l.art == 10) BehaelterAnzeigen(l);
+  if (art::IstBehaelter(l.art)) BehaelterAnzeigen(l);
 }
 
 // Below T(cr): the given v against the saturated volumes of the EOS. False after an error.
@@ -136,7 +136,7 @@ void ZustandZeigen(Lauf& l) {
   ProjectState& s = l.s;
   const double Tc = s.Stoff.TKrit;
   const bool beide = l.k.HatL && l.k.HatV;
-  const bool behaelter = l.art == 9 || l.art == 10;
+  const bool behaelter = art::IstBehaelter(l.art);
   if (beide && l.T < Tc) {
     const double L = l.vL, V = l.vV;
     l.y = V > L ? (l.v - L) / (V - L) : 0;
@@ -152,7 +152,7 @@ void ZustandZeigen(Lauf& l) {
   l.Zelle(ZelleP) = l.p;
   l.satz.Phase = PhasenMarke(l);
   l.satz.pCalc = Einfach(l.p);
-  if (l.art == 9) {
+  if (l.art == art::BehaelterGlobal) {
     BehaelterAnzeigen(l);
     return;
   }
@@ -178,7 +178,7 @@ void ZustandZeigen(Lauf& l) {
 
 void Art1Bis2(Lauf& l) {
   ProjectState& s = l.s;
-  const bool behaelter = l.art == 9 || l.art == 10;
+  const bool behaelter = art::IstBehaelter(l.art);
   double rho = 0;
   if (behaelter) {
     if (!BehaelterHolen(l, rho)) return;
@@ -193,7 +193,7 @@ void Art1Bis2(Lauf& l) {
     return;
   }
   const double Tc = s.Stoff.TKrit;
-  if (l.art == 10 && l.T >= Tc) {
+  if (l.art == art::BehaelterPartial && l.T >= Tc) {
     l.ui.Meldung(
         std::string("PARTIAL-Berechnung nur für Phasengleichgewicht - also für T < T(cr) - sinnvoll") + CRLF +
             "(T(cr)/K =" + (Tc >= 0 ? " " : "") + Einzel(l, Tc) + ")",

@@ -1,7 +1,9 @@
 #include "calc/calc_eingabe.h"
 
 #include "core/rahmen.h"
+#include "core/rechen_art.h"
 #include "core/zahlformat.h"
+#include "engine/korrelationen.h"
 #include "engine/referenz.h"
 
 #include <utility>
@@ -59,15 +61,16 @@ frmCalcIn::frmCalcIn(ProjectState& s, ui::Oberflaeche& ui, RechnungsFenster fens
 // The case itself asks for PARTIAL: T and p at equilibrium, or Benson's liquid density for the
 // enthalpy of vaporization and the vessel.
 bool frmCalcIn::PartialErzwungen() const {
-  const int16_t art = s_.RechenArt;
-  return (art == 3 && s_.Rechnung.TpGleichgewicht) || art >= 6 || s_.Modell.HLVIndex == 6;
+  const int16_t a = s_.RechenArt;
+  return (a == art::Tp && s_.Rechnung.TpGleichgewicht) || a >= art::HLVvonT ||
+         s_.Modell.HLVIndex == HLVAusBenson;
 }
 
 void frmCalcIn::SituationSetzen() {
-  const int16_t art = s_.RechenArt;
+  const int16_t a = s_.RechenArt;
   const bool virial = s_.Modell.VirialFlag;
-  const bool tpGleich = art == 3 && s_.Rechnung.TpGleichgewicht;
-  const bool benson = art >= 6 || s_.Modell.HLVIndex == 6;
+  const bool tpGleich = a == art::Tp && s_.Rechnung.TpGleichgewicht;
+  const bool benson = a >= art::HLVvonT || s_.Modell.HLVIndex == HLVAusBenson;
   if (virial && !benson && !tpGleich) {
     Situation = Zeilen({"Die gewählte EOS ist nur für die V-Phasen-Berechnung anwendbar.",
                         "Die L-Dichte wird mit der BENSON-Methode berechnet,",
@@ -188,11 +191,11 @@ void frmCalcIn::OK_Click() {
     if (f_.DiagrammWeiter) f_.DiagrammWeiter();
     return;
   }
-  const int16_t art = s_.RechenArt;
-  if (art != 10 && f_.ErgebnisZeigen && !f_.ErgebnisZeigen()) return;
+  const int16_t a = s_.RechenArt;
+  if (a != art::BehaelterPartial && f_.ErgebnisZeigen && !f_.ErgebnisZeigen()) return;
   RechnungGruppe& r = s_.Rechnung;
   if (r.StapelModus) return;
-  r.ParinputModus = static_cast<int16_t>(art == 10 ? ParinputBehaelter : art + ParinputDirekt);
+  r.ParinputModus = static_cast<int16_t>(a == art::BehaelterPartial ? ParinputBehaelter : a + ParinputDirekt);
   if (f_.ParinputZeigen) f_.ParinputZeigen();
 }
 

@@ -1,6 +1,7 @@
 #include "calc/ceos_diagnose.h"
 
 #include "core/zahlformat.h"
+#include "engine/eos_zeilen.h"
 
 namespace quor {
 
@@ -12,10 +13,6 @@ constexpr const char* StabilL = "(stabil, L-Phase)";
 constexpr const char* StabilV = "(stabil, V-Phase)";
 constexpr const char* Metastabil = "(metastabil)";
 constexpr const char* Instabil = "(instabil)";
-
-bool IstKubisch(int16_t eosIndex) {
-  return eosIndex >= 2 && eosIndex <= 8;
-}
 
 } // namespace
 
@@ -36,7 +33,7 @@ std::string frmCEOSDiagnose::WurzelZeile(int nummer, double v, const std::string
 void frmCEOSDiagnose::Form_Load() {
   Wurzeln.clear();
   pctEOS = Bild::Keins;
-  if (!IstKubisch(s_.Modell.EOSIndex) || z_.AnzahlWurzeln < 1 || z_.T <= 0) return;
+  if (!eos::IstKubisch(s_.Modell.EOSIndex) || z_.AnzahlWurzeln < 1 || z_.T <= 0) return;
 
   const std::string& name = s_.Tab.EOSNamen[static_cast<std::size_t>(s_.Modell.EOSIndex)];
   lblEOS = name.substr(0, name.find_last_not_of(' ') + 1);

@@ -1,6 +1,7 @@
 #include "calc/ergebnis_seite.h"
 
 #include "calc/bericht.h"
+#include "core/rechen_art.h"
 
 #include <utility>
 
@@ -15,32 +16,28 @@ namespace {
 const char* const GlobalText = " (GLOBAL-Berechnung)";
 const char* const PartialText = " (PARTIAL-Berechnung)";
 
-bool IstDatenbankArt(int16_t art) {
-  return art >= 14 && art <= 24;
-}
-
-// Title texts of the database functions, by kind 14 to 24 (23 has none).
-const char* DatenbankText(int16_t art) {
-  switch (art) {
-  case 14:
+// Title texts of the database functions (kind 23 has none).
+const char* DatenbankText(int16_t a) {
+  switch (a) {
+  case art::DbRhoL:
     return "L-Dichte";
-  case 24:
+  case art::DbRhoS:
     return "S-Dichte";
-  case 15:
+  case art::DbHLV:
     return "Verdampfungsenthalpie";
-  case 16:
+  case art::DbCpIdG:
     return "Idealgas-Wärmekapazität";
-  case 17:
+  case art::DbCpL:
     return "L-Wärmekapazität";
-  case 18:
+  case art::DbCpS:
     return "S-Wärmekapazität";
-  case 19:
+  case art::DbFrostKalkwarf:
     return "erweiterte Frost-Kalkwarf-Gleichung";
-  case 20:
+  case art::DbWagner:
     return "Wagner-Gleichung";
-  case 21:
+  case art::DbAntoineNd:
     return "Antoine-Gleichung (Lo-p)";
-  case 22:
+  case art::DbAntoineHd:
     return "Antoine-Gleichung (Hi-p)";
   default:
     return nullptr;
@@ -49,39 +46,39 @@ const char* DatenbankText(int16_t art) {
 
 } // namespace
 
-std::string ArtText(const ProjectState& s, int16_t art) {
+std::string ArtText(const ProjectState& s, int16_t a) {
   const bool global = s.Modell.RechnungGlobal;
   const std::string behaelter = "Phasenzustand und Druck in einem Behälter";
-  switch (art) {
-  case 1:
+  switch (a) {
+  case art::TRhoV:
     return " T, rho(V)  => p";
-  case 2:
+  case art::TRhoL:
     return " T, rho(L)  => p";
-  case 3:
+  case art::Tp:
     return " T, p => rho";
-  case 13:
+  case art::pRho:
     return " p, rho => T";
-  case 4:
+  case art::TzuPLV:
     return std::string(" T => p(LV)") + (global ? GlobalText : PartialText);
-  case 5:
+  case art::PzuTLV:
     return std::string(" p => T(LV)") + (global ? GlobalText : PartialText);
-  case 6:
+  case art::HLVvonT:
     return " T => Verdampfungsenthalpie entsprechend \"Modelle\"";
-  case 7:
+  case art::HLVvonP:
     return " p => Verdampfungsenthalpie entsprechend \"Modelle\"";
-  case 8:
+  case art::Funktionen:
     return std::string(" thermodynamische Funktionen F(T, p)") + GlobalText;
-  case 12:
+  case art::Polytrope:
     return "Polytropen-Prozess";
-  case 9:
+  case art::BehaelterGlobal:
     return behaelter + GlobalText;
-  case 10:
+  case art::BehaelterPartial:
     return behaelter + " (PARTIAL-Berechnung, rho(L) " +
            (s.Modell.BensonDichte ? " nach BENSON)" : " aus Datenbank)");
-  case 11:
+  case art::Virial:
     return " Vergleich Virialkoeffizienten";
   default: {
-    const char* db = DatenbankText(art);
+    const char* db = DatenbankText(a);
     return db != nullptr ? std::string(" Datenbankfunktion ") + db : std::string();
   }
   }
@@ -105,7 +102,7 @@ void frmQCalcOut::Form_Load() {
   Kontext.AnzahlPunkte = StapelModus ? s_.Mess.ExpAnzahl : 0;
   Kontext.StapelErgebnisse.assign(static_cast<std::size_t>(Kontext.AnzahlPunkte) + 1, StapelErgebnis{});
   Kontext.Abschnitte = 1;
-  Kontext.MitFunktionen = (Art == 4 || Art == 5) && s_.Modell.RechnungGlobal;
+  Kontext.MitFunktionen = art::IstGleichgewicht(Art) && s_.Modell.RechnungGlobal;
   ResPlus = {false, false};
   chkUHS = Kontext.MitFunktionen;
   chkFuncPrint = false;
@@ -139,19 +136,19 @@ void frmQCalcOut::Rechnen() {
 }
 
 void frmQCalcOut::SetzeFreigaben() {
-  const bool datenbank = IstDatenbankArt(Art);
-  const bool partial45 = (Art == 4 || Art == 5) && !s_.Modell.RechnungGlobal;
+  const bool datenbank = art::IstDatenbank(Art);
+  const bool partial45 = art::IstGleichgewicht(Art) && !s_.Modell.RechnungGlobal;
   cmdVorEnabled = cmdRueckEnabled = StapelModus;
-  fraResultOutputVisible = !(Art == 11 || datenbank);
+  fraResultOutputVisible = !(Art == art::Virial || datenbank);
   fraResultOutputEnabled = StapelModus;
-  fraProtokollVisible = Art != 9 && Art != 10 && Seite.fraProtokollSichtbar;
+  fraProtokollVisible = !art::IstBehaelter(Art) && Seite.fraProtokollSichtbar;
   fraCalcErweitertVisible =
-      !(Art == 6 || Art == 7 || Art == 11 || datenbank) && Seite.fraCalcErweitertSichtbar;
+      !(art::IstVerdampfung(Art) || Art == art::Virial || datenbank) && Seite.fraCalcErweitertSichtbar;
   fraBatchVorgabeVisible = Seite.fraBatchVorgabeSichtbar;
   fraValueVisible = Seite.fraValueSichtbar;
-  chkUHSEnabled = Art < 4 || Art == 9;
+  chkUHSEnabled = Art < art::TzuPLV || Art == art::BehaelterGlobal;
   ResPlusEnabled = !partial45;
-  chkFuncPrintEnabled = optResultPrint != AusgabeKeine && Art < 6 && Kontext.Abschnitte >= 2;
+  chkFuncPrintEnabled = optResultPrint != AusgabeKeine && Art < art::HLVvonT && Kontext.Abschnitte >= 2;
   cmdOpenNewEnabled = Protokoll.ProtokollOffen;
   cmdCEOSDiagnoseEnabled = Seite.cmdCEOSDiagnoseVerfuegbar;
   cmdInfoSuperCritEnabled = Seite.cmdInfoSuperCritVerfuegbar;

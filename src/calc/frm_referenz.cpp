@@ -2,6 +2,7 @@
 
 #include "core/zahl_lesen.h"
 #include "core/zahlformat.h"
+#include "engine/eos_zeilen.h"
 #include "engine/referenz.h"
 #include "engine/saettigung.h"
 
@@ -47,10 +48,6 @@ double EnergieFaktorReferenz(const ProjectState& s) {
   }
 }
 
-bool IstKubisch(const ProjectState& s) {
-  return !s.Modell.VirialFlag && s.Modell.EOSIndex >= 2 && s.Modell.EOSIndex <= 8;
-}
-
 // The field's number, or `bisher` when the text is none.
 double Lies(const std::string& text, double bisher) {
   const ZahlErgebnis z = LeseZahl(text);
@@ -69,7 +66,7 @@ void frmReferenz::Form_Load() {
   const int mode =
       s_.Einheiten.EnergieMode >= 0 && s_.Einheiten.EnergieMode <= 3 ? s_.Einheiten.EnergieMode : 0;
   bz7 = {hTexte[mode], sTexte[mode]};
-  HinweisPoVisible = IstKubisch(s_) && s_.Stoff.TKrit > r.TRef;
+  HinweisPoVisible = eos::KubischGewaehlt(s_.Modell) && s_.Stoff.TKrit > r.TRef;
   if (r.pRef == 0) {
     // Proposal: the saturation pressure of the EOS at TRef; silent fall-back to normal pressure.
     double imbalance = 0, A = 0, B = 0;

@@ -1,5 +1,6 @@
 #include "calc/parinput.h"
 
+#include "core/rechen_art.h"
 #include "core/zahl_lesen.h"
 #include "core/zahlformat.h"
 
@@ -18,14 +19,15 @@ constexpr const char* LabelT = "        T/K = ";
 constexpr const char* Labelp = "      p/kPa = ";
 constexpr const char* LabelRho = " rho/kg/m^3 = ";
 
-bool BrauchtT(int16_t art) {
-  return art != 5 && art != 7 && art != 13;
+bool BrauchtT(int16_t a) {
+  return a != art::PzuTLV && a != art::HLVvonP && a != art::pRho;
 }
-bool Brauchtp(int16_t art) {
-  return art == 3 || art == 5 || art == 7 || art == 8 || art == 12 || art == 13;
+bool Brauchtp(int16_t a) {
+  return a == art::Tp || a == art::PzuTLV || a == art::HLVvonP || a == art::Funktionen ||
+         a == art::Polytrope || a == art::pRho;
 }
-bool BrauchtDichte(int16_t art) {
-  return art == 1 || art == 2 || art == 13;
+bool BrauchtDichte(int16_t a) {
+  return a == art::TRhoV || a == art::TRhoL || a == art::pRho;
 }
 
 // Label and option text of a volume in the unit of the display.

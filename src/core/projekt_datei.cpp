@@ -5,6 +5,7 @@
 #include "core/rahmen.h"
 #include "core/text_kodierung.h"
 #include "dienste/oberflaeche.h"
+#include "engine/eos_zeilen.h"
 
 #include <ctime>
 #include <type_traits>
@@ -88,8 +89,9 @@ bool LeseModelle(ListenLeser& leser, LeseFehler& fehler, ProjectState& s) {
   ModelSelection& m = s.Modell;
   if (!Tabellenwert(leser, fehler, m.DampfdruckIndex, 8)) return false;
   m.DampfdruckTag = m.DampfdruckIndex < 1 ? KeinKommentar : DampfdruckTagVon(m.DampfdruckIndex);
-  if (!Tabellenwert(leser, fehler, m.EOSIndex, 16)) return false; // -1 (none) becomes 0 as well
-  m.VirialFlag = m.EOSIndex == 0 || m.EOSIndex >= 10;
+  // -1 (none) becomes 0 as well
+  if (!Tabellenwert(leser, fehler, m.EOSIndex, eos::VirialPitzerCurl)) return false;
+  m.VirialFlag = eos::IstVirial(m.EOSIndex);
   return Tabellenwert(leser, fehler, m.CpIndex, 2) && Tabellenwert(leser, fehler, m.HLVIndex, 7) &&
          Wert(leser, fehler, m.WatsonExp) && Wert(leser, fehler, m.KonzeptGlobal);
 }

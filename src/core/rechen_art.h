@@ -30,6 +30,7 @@ constexpr int16_t DbFrostKalkwarf = 19; // the vapour-pressure equations: 19 + s
 constexpr int16_t DbWagner = 20;
 constexpr int16_t DbAntoineNd = 21;
 constexpr int16_t DbAntoineHd = 22;
+constexpr int16_t OhneZweig = 23; // within the database range, but no branch: the page stays empty
 constexpr int16_t DbRhoS = 24;
 
 constexpr bool IstBehaelter(int16_t a) {

@@ -1,5 +1,6 @@
 #include "engine/eos_auswertung.h"
 
+#include "engine/eos_zeilen.h"
 #include "engine/numerik.h"
 
 #include <cmath>
@@ -13,10 +14,6 @@ constexpr double JiK = 0.76528558;
 constexpr double JiK1 = 1.76528558; // 1 + JiK
 constexpr double JiK2 = 2.53057116; // 1 + 2*JiK
 constexpr double JiK5 = 5.53057116; // 4 + 2*JiK
-
-bool IstJiModell(const ProjectState& s) {
-  return s.Modell.EOSIndex == 7 || s.Modell.EOSIndex == 8;
-}
 
 // T^e with the exponents of the predefined models taken without a call of pow.
 inline double Potenz(double T, double e) {
@@ -63,7 +60,7 @@ void JiAbleitungen(const ProjectState& s, double T, EOSAbleitungen& r) {
   r.da = -1.5 * J[JiA] * alpha * E * std::pow(Tr, -0.25) / Tc;
   r.d2a = J[JiA] / (Tc * Tc) *
           (1.125 * (E * E + alpha * K) / std::sqrt(Tr) + 0.375 * alpha * E * std::pow(Tr, -1.25));
-  if (s.Modell.EOSIndex == 8) {
+  if (s.Modell.EOSIndex == eos::VarnikJi2) {
     const JiNenner n = JiNennerVon(s);
     const double f1 = 2 * J[JiB2] * (1 - Tr) / Tc;
     const double f2 = -2 * J[JiB2] / (Tc * Tc);
@@ -90,7 +87,7 @@ void JiEOSbeiT(ProjectState& s, double T) {
   e.aT = J[JiA] * alpha * alpha;
   const JiNenner n = JiNennerVon(s);
   // Model II scales the co-volume terms; above Tc the factor keeps its (1 - Tr)^2 form.
-  const double f = s.Modell.EOSIndex == 8 ? 1 - J[JiB2] * (1 - Tr) * (1 - Tr) : 1.0;
+  const double f = s.Modell.EOSIndex == eos::VarnikJi2 ? 1 - J[JiB2] * (1 - Tr) * (1 - Tr) : 1.0;
   e.bT = n.Bc * f;
   e.cT = n.cFaktor * n.Bc * f;
   e.dT = n.dFaktor * n.Bc * f;
@@ -98,7 +95,7 @@ void JiEOSbeiT(ProjectState& s, double T) {
 
 void EOSbeiT(ProjectState& s, double T) {
   if (T < 1e-6) return;
-  if (IstJiModell(s)) {
+  if (eos::IstVarnikJi(s.Modell.EOSIndex)) {
     JiEOSbeiT(s, T);
     return;
   }
@@ -123,7 +120,7 @@ void EOSAbleitungenT(const ProjectState& s, double T, EOSAbleitungen& r, int16_t
     return;
   }
   const EOSGruppe& e = s.EOS;
-  if (IstJiModell(s)) {
+  if (eos::IstVarnikJi(s.Modell.EOSIndex)) {
     JiAbleitungen(s, T, r);
   } else {
     if (e.aForm == 2) {

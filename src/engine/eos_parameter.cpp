@@ -2,6 +2,7 @@
 
 #include "core/zahlformat.h"
 #include "engine/eos_auswertung.h"
+#include "engine/eos_zeilen.h"
 #include "engine/numerik.h"
 #include "engine/varnik_ji.h"
 
@@ -60,39 +61,36 @@ void MeldeRechenfehler(const ProjectState& s, ui::Oberflaeche& ui) {
   ui.Meldung(text, TitelNichtMoeglich, ui::Symbol::Ausruf);
 }
 
-// Constants of the power-law and Soave rows; rows without a branch keep the cleared constants.
+// Constants of the power-law and Soave rows, the virial rows 11 to 15 with those of their cubic row;
+// rows without a branch keep the cleared constants.
 void SetzeKubischeKonstanten(ProjectState& s, uint16_t index) {
   EOSGruppe& e = s.EOS;
   const double Tc = s.Stoff.TKrit, pc = s.Stoff.pKrit;
   const double Q = RGas * Tc / pc;
   const double R2 = RGas * RGas;
-  switch (index) {
-  case 0:
+  switch (eos::KonstantenZeile(index)) {
+  case eos::Idealgas:
     e.vKritEOS = Q;
     break;
-  case 2:
-  case 11: // van der Waals
+  case eos::VanDerWaals:
     e.a0 = 27.0 / 64 * R2 * Tc * Tc / pc;
     e.b0 = Q / 8;
     e.vKritEOS = 3.0 / 8 * Q;
     break;
-  case 3:
-  case 12: // Berthelot
+  case eos::Berthelot:
     e.a0 = 27.0 / 64 * R2 * Tc * Tc * Tc / pc;
     e.aExp = -1;
     e.b0 = Q / 8;
     e.vKritEOS = 3.0 / 8 * Q;
     break;
-  case 4:
-  case 13: // Redlich/Kwong
+  case eos::RedlichKwong:
     e.a0 = RKOmegaA() * R2 * std::pow(Tc, 2.5) / pc;
     e.aExp = -0.5;
     e.b0 = RKOmegaB() * Q;
     e.d0 = e.b0;
     e.vKritEOS = Q / 3;
     break;
-  case 5:
-  case 14: // Soave/Redlich/Kwong
+  case eos::SoaveRedlichKwong:
     e.aForm = 2;
     e.a0 = RKOmegaA() * R2 * Tc * Tc / pc;
     e.aExp = SoaveSteigungSRK(s.Stoff.omega);
@@ -100,8 +98,7 @@ void SetzeKubischeKonstanten(ProjectState& s, uint16_t index) {
     e.d0 = e.b0;
     e.vKritEOS = Q / 3;
     break;
-  case 6:
-  case 15: // Peng/Robinson
+  case eos::PengRobinson:
     e.aForm = 2;
     e.a0 = PROmegaA() * R2 * Tc * Tc / pc;
     e.aExp = SoaveSteigungPR(s.Stoff.omega);
@@ -110,7 +107,7 @@ void SetzeKubischeKonstanten(ProjectState& s, uint16_t index) {
     e.d0 = (1 + std::sqrt(2.0)) * e.b0;
     e.vKritEOS = 0.3074 * Q;
     break;
-  default: // 1, 9, 10: constants stay cleared (10 holds hand input)
+  default: // the empty rows 1, 9 and the hand input (10): constants stay cleared
     break;
   }
 }
@@ -183,9 +180,9 @@ void EOSParameterSetup(ProjectState& s, ui::Oberflaeche& ui, int16_t EOSIndex, i
   err = 0;
   e.aForm = 1;
   e.vKritEOS = 0;
-  if (index != 1) LoescheEOSKonstanten(s);
+  if (index != eos::LeereZeile1) LoescheEOSKonstanten(s);
   bool gerechnet = true;
-  if (index == 7 || index == 8) {
+  if (eos::IstVarnikJi(index)) {
     int16_t jiFehler = 0;
     JiParameterBerechnen(s, ui, jiFehler);
     if (jiFehler != 0) {
@@ -197,7 +194,7 @@ void EOSParameterSetup(ProjectState& s, ui::Oberflaeche& ui, int16_t EOSIndex, i
     int16_t kritFehler = 0;
     JiKritischeKonstanten(s, kritFehler);
     gerechnet = kritFehler == 0 && JiParameterEndlich(e);
-  } else if (index < 16) {
+  } else if (index < eos::VirialPitzerCurl) {
     SetzeKubischeKonstanten(s, index);
   }
   e.rhoKritEOS = 0;
@@ -217,9 +214,9 @@ std::string ParameterEOSText(ProjectState& s) {
   const int16_t index = s.Modell.EOSIndex;
   const EOSGruppe& e = s.EOS;
   std::vector<std::string> z;
-  if (index < 1) {
+  if (index <= eos::Idealgas) {
     z.push_back("Idealgasgleichung eingestellt");
-  } else if (index == 16) {
+  } else if (index == eos::VirialPitzerCurl) {
     z.push_back("Parameter der PITZER/CURL-Gleichung");
     z.push_back("(Erläuterung in der Hilfe zum Fenster \"Berechnungs-Modelle\")");
   } else {
@@ -227,11 +224,11 @@ std::string ParameterEOSText(ProjectState& s) {
         index < static_cast<int16_t>(s.Tab.EOSNamen.size()) ? s.Tab.EOSNamen[index] : std::string();
     z.push_back("Parameter " + OhneFuehrendeLeerzeichen(name));
     z.push_back("für " + s.Stoff.StoffName);
-    if (index == 7 || index == 8) {
+    if (eos::IstVarnikJi(index)) {
       JiEOSbeiT(s, TStandard);
       z.push_back("für T/K = " + Wert(TStandard));
-      z.push_back(index == 7 ? "  (die Parameter b, c und d sind T-unabhängig)"
-                             : "  (alle Parameter sind T-abhängig)");
+      z.push_back(index == eos::VarnikJi1 ? "  (die Parameter b, c und d sind T-unabhängig)"
+                                          : "  (alle Parameter sind T-abhängig)");
       z.push_back("a = " + Wert(e.aT));
       z.push_back("b = " + Wert(e.bT));
       z.push_back("c = " + Wert(e.cT));

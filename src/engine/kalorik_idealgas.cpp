@@ -121,12 +121,12 @@ double Coth(double x) {
 
 double cpIdealgas(ProjectState& s, double T, int kind, int16_t& err) {
   err = 0;
-  if (kind != 1 && kind != 2) return 0;
+  if (kind != CpPolynom && kind != CpSinhCosh) return 0;
   if (!(T > 0)) {
     err = -1;
     return 0;
   }
-  const double cp = kind == 1 ? PolynomWert(s.Stoff.CpPoly, T) : SinhCoshWert(s.Stoff.CpSinh, T);
+  const double cp = kind == CpPolynom ? PolynomWert(s.Stoff.CpPoly, T) : SinhCoshWert(s.Stoff.CpSinh, T);
   if (!std::isfinite(cp)) {
     err = -1;
     return 0;
@@ -149,7 +149,7 @@ void IdealgasFunktionen(ProjectState& s, double T, double p, double& h, double& 
   ReferenzKonstanten(s, p, h0, s0);
   const ReferenzGruppe& r = s.Referenz;
   const int kind = s.Modell.CpIndex;
-  if (kind != 1 && kind != 2) {
+  if (kind != CpPolynom && kind != CpSinhCosh) {
     cp = 0;
     h += r.hRef;
     entropie += r.sRef;
@@ -159,7 +159,7 @@ void IdealgasFunktionen(ProjectState& s, double T, double p, double& h, double& 
   if (err != 0) return;
   const double To = r.TRef;
   double hInt = 0, sInt = 0;
-  if (kind == 1) {
+  if (kind == CpPolynom) {
     PolynomIntegrale(s.Stoff.CpPoly, T, To, hInt, sInt);
   } else if (!(T > 0.1) || !SinhCoshIntegrale(s.Stoff.CpSinh, T, To, hInt, sInt)) {
     err = -1;

@@ -93,6 +93,9 @@ double HLVBerechnen(ProjectState& s, int methode, double& T, double& p, int inde
                     HLVErgebnis& erg, int16_t& failed, ui::Oberflaeche* ui = nullptr,
                     const HLVDatenpunkt& punkt = {});
 
+// Rows of the cp table (CpIndex): the ideal-gas heat-capacity equations of the database.
+enum CpGleichung : int16_t { CpKeine = 0, CpPolynom = 1, CpSinhCosh = 2 };
+
 // Ideal-gas heat capacity in kJ/(kmol K): kind 1 polynomial, kind 2 sinh/cosh, otherwise 0.
 double CpIdG(ProjectState& s, double T, int kind);
 

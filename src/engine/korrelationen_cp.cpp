@@ -49,8 +49,8 @@ double CpKondensiert(const StoffGruppe& st, const std::array<float, 5>& c, doubl
 } // namespace
 
 double CpIdG(ProjectState& s, double T, int kind) {
-  if (kind == 1) return Endlich(Polynom(s.Stoff.CpPoly, T, 1));
-  if (kind == 2) return Endlich(SinhCosh(s.Stoff.CpSinh, T));
+  if (kind == CpPolynom) return Endlich(Polynom(s.Stoff.CpPoly, T, 1));
+  if (kind == CpSinhCosh) return Endlich(SinhCosh(s.Stoff.CpSinh, T));
   return 0;
 }
 

@@ -1,6 +1,7 @@
 #include "engine/saettigung.h"
 
 #include "engine/eos_auswertung.h"
+#include "engine/eos_zeilen.h"
 #include "engine/korrelationen.h"
 #include "engine/kubisch.h"
 #include "engine/numerik.h"
@@ -60,7 +61,7 @@ void KritischerPunkt(ProjectState& s) {
 // joins 1 kPa at T = 0 to pKrit at TKrit.
 double StartDruck(ProjectState& s, double T) {
   double p = 0;
-  if (s.Modell.DampfdruckIndex > 0) {
+  if (s.Modell.DampfdruckIndex > DampfdruckKeine) {
     int16_t fehler = 0;
     p = pLV(s, T, s.Modell.DampfdruckIndex, false, fehler);
   }
@@ -176,7 +177,7 @@ double pLVbeiT(ProjectState& s, double T, double& Imbalance, double& A, double& 
     return pc;
   }
   EOSbeiT(s, T);
-  if (T >= Tc || s.Modell.EOSIndex == -1 || s.Modell.VirialFlag) return Fehlschlag(err);
+  if (T >= Tc || s.Modell.EOSIndex == eos::Keine || s.Modell.VirialFlag) return Fehlschlag(err);
   err = 0;
   Imbalance = 0;
   double p = StartDruck(s, T);

@@ -3,6 +3,7 @@
 #include "core/datei_io.h"
 #include "core/listen_datei.h"
 #include "core/zahlformat.h"
+#include "engine/eos_zeilen.h"
 
 #include <charconv>
 #include <filesystem>
@@ -103,7 +104,7 @@ std::string DampfdruckZeile(const ProjectState& s) {
 }
 
 int16_t JiModell(const ProjectState& s) {
-  return s.Modell.EOSIndex == 8 ? 8 : 7;
+  return s.Modell.EOSIndex == eos::VarnikJi2 ? eos::VarnikJi2 : eos::VarnikJi1;
 }
 
 std::string CAS12(const std::string& cas) {
@@ -127,7 +128,7 @@ void MeldeLesefehler(ui::Oberflaeche& ui, const std::string& grund, int16_t& err
 } // namespace
 
 std::string JiParameterDateiName(int16_t EOSIndex) {
-  return EOSIndex == 8 ? "PARA_JI2.DAT" : "PARAM_JI.DAT";
+  return EOSIndex == eos::VarnikJi2 ? "PARA_JI2.DAT" : "PARAM_JI.DAT";
 }
 
 std::string JiPfad(const ProjectState& s, const std::string& name) {
@@ -156,7 +157,7 @@ void JiBlockCodes(const std::string& DampfdruckTag, int16_t& code1, int16_t& cod
 std::string JiParDateiBytes(const ProjectState& s) {
   const StoffGruppe& st = s.Stoff;
   ListenSchreiber w;
-  w.Ganz(JiModell(s) == 8 ? 11 : 10);
+  w.Ganz(JiModell(s) == eos::VarnikJi2 ? 11 : 10);
   w.ZeileEnde();
   w.Text(CAS12(st.CASRN));
   w.ZeileEnde();
@@ -220,7 +221,7 @@ void Daten_Ji(const ProjectState& s, ui::Oberflaeche& ui, const std::string& fil
     return;
   }
   // Leading number, unused value, JiM, JiN, JiP, JiZc [, JiB2].
-  const std::size_t anzahl = JiModell(s) == 8 ? 7 : 6;
+  const std::size_t anzahl = JiModell(s) == eos::VarnikJi2 ? 7 : 6;
   std::array<double, 7> w{};
   ListenLeser leser(bytes);
   for (std::size_t i = 0; i < anzahl; ++i) {

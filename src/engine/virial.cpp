@@ -1,6 +1,7 @@
 #include "engine/virial.h"
 
 #include "engine/eos_auswertung.h"
+#include "engine/eos_zeilen.h"
 #include "engine/numerik.h"
 
 #include <cmath>
@@ -9,14 +10,10 @@ namespace quor {
 
 namespace {
 
-bool IstKubischVirial(int16_t index) {
-  return index == 7 || index == 8 || (index >= 11 && index <= 15);
-}
-
 // Rows whose derivatives follow from the cubic quantities a, b (the ideal gas and the hand input
 // with their a0 = 0 among them).
 bool HatKubischeAbleitung(int16_t index) {
-  return index == 0 || index == 10 || IstKubischVirial(index);
+  return index == eos::Idealgas || index == eos::VirialHand || eos::BAusKubischerForm(index);
 }
 
 double PitzerCurl(const ProjectState& s, double T) {
@@ -52,12 +49,12 @@ double BvonT(ProjectState& s, int16_t EOSIndex, double T) {
   }
   e.bT = e.b0 * std::pow(T, e.bExp);
   double B = 0;
-  if (IstKubischVirial(EOSIndex)) {
+  if (eos::BAusKubischerForm(EOSIndex)) {
     EOSbeiT(s, T);
     B = e.bT - e.aT / (RGas * T);
-  } else if (EOSIndex == 10) {
+  } else if (EOSIndex == eos::VirialHand) {
     B = e.b0 - e.bExp / std::pow(T, e.BExpHand);
-  } else if (EOSIndex == 16) {
+  } else if (EOSIndex == eos::VirialPitzerCurl) {
     B = PitzerCurl(s, T);
   }
   return std::isfinite(B) ? B : 0.0;
@@ -67,7 +64,7 @@ void VirialAbleitungenT(ProjectState& s, int16_t EOSIndex, double T, double& dB,
   dB = d2B = 0;
   err = 0;
   if (T < 1e-6) return;
-  if (EOSIndex == 16) {
+  if (EOSIndex == eos::VirialPitzerCurl) {
     PitzerCurlAbleitungen(s, T, dB, d2B);
   } else if (HatKubischeAbleitung(EOSIndex)) {
     BvonT(s, EOSIndex, T);

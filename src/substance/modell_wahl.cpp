@@ -3,9 +3,11 @@
 #include "core/festtext.h"
 #include "core/zahl_lesen.h"
 #include "core/zahlformat.h"
-#include "engine/eos_parameter.h"
-#include "substance/korrelierte_parameter.h"
 #include "dienste/oberflaeche.h"
+#include "engine/eos_parameter.h"
+#include "engine/eos_zeilen.h"
+#include "engine/korrelationen.h"
+#include "substance/korrelierte_parameter.h"
 
 #include <cmath>
 
@@ -25,16 +27,9 @@ const char* const frmQModell::OmegaWarnung = "Kein azentrischer Faktor OMEGA ver
 
 namespace {
 
-constexpr int16_t HLVAusKubischerEOS = 7;
-constexpr int16_t VirialHandEingabe = 10;
-
-bool IstVirial(int16_t eos) {
-  return eos == 0 || eos >= 10;
-}
-
 // Models that need the acentric factor.
 bool BrauchtOmega(const ModelSelection& m) {
-  return m.HLVIndex == 3 || (m.EOSIndex >= 5 && m.EOSIndex <= 8) || m.EOSIndex >= 14;
+  return m.HLVIndex == HLVCarruthKobayashi || eos::BrauchtOmega(m.EOSIndex);
 }
 
 template <std::size_t N> std::string TabellenText(const std::array<std::string, N>& tabelle, int16_t i) {
@@ -83,7 +78,7 @@ ModellAktionen frmQModell::EOSListe_Click(int eintrag) {
   ModelSelection& m = s_.Modell;
   const bool warVirial = m.VirialFlag;
   m.EOSIndex = EOS.Gewaehlt();
-  if (!IstVirial(m.EOSIndex)) {
+  if (!eos::IstVirial(m.EOSIndex)) {
     m.VirialFlag = false;
     if (warVirial) {
       m.KonzeptGlobal = true;
@@ -96,11 +91,11 @@ ModellAktionen frmQModell::EOSListe_Click(int eintrag) {
     m.KonzeptGlobal = false;
     const bool gewaehlt = HLV.Gewaehlt() == HLVAusKubischerEOS;
     HLV.Entferne(HLVAusKubischerEOS);
-    if (HLV.Index.empty()) HLV.Hinzu(0, s_.Tab.HLVNamen[0]);
+    if (HLV.Index.empty()) HLV.Hinzu(HLVKeine, s_.Tab.HLVNamen[HLVKeine]);
     if (gewaehlt) WaehleInHLV(0);
   }
   SetzeKonzeptOptionen();
-  if (m.EOSIndex == VirialHandEingabe) {
+  if (m.EOSIndex == eos::VirialHand) {
     KonstantenFuerHandEingabe();
     a.BParInputOeffnen = true;
   }
@@ -112,7 +107,7 @@ ModellAktionen frmQModell::EOSListe_Click(int eintrag) {
 void frmQModell::WaehleInHLV(int eintrag) {
   HLV.ListIndex = eintrag;
   s_.Modell.HLVIndex = HLV.Gewaehlt();
-  WatsonVisible = s_.Modell.HLVIndex == 4;
+  WatsonVisible = s_.Modell.HLVIndex == HLVWatson;
 }
 
 ModellAktionen frmQModell::HLVListe_Click(int eintrag) {
@@ -166,8 +161,9 @@ bool frmQModell::cmdOKModell() {
   MenueFreigaben& f = s_.Projekt.Freigaben;
   if (st.omega == 0 && BrauchtOmega(m)) ui_.Meldung(OmegaWarnung, "WARNUNG", ui::Symbol::Ausruf);
   f.Modell = true;
-  if (m.DampfdruckIndex > 5) KorrelierteParameter(s_, m.DampfdruckIndex, st.TKrit, st.pKrit, st.TSiede);
-  if (m.EOSIndex != VirialHandEingabe) {
+  if (m.DampfdruckIndex > AugustKorreliert)
+    KorrelierteParameter(s_, m.DampfdruckIndex, st.TKrit, st.pKrit, st.TSiede);
+  if (m.EOSIndex != eos::VirialHand) {
     int16_t err = 0;
     EOSParameterSetup(s_, ui_, m.EOSIndex, err);
     if (err != 0) return false;
@@ -183,7 +179,7 @@ void frmQModell::StatusLeiste() {
   const ModelSelection& m = s_.Modell;
   auto& panel = s_.Projekt.StatusLeiste;
   panel[2] = s_.Stoff.StoffName;
-  if (m.EOSIndex >= 0) panel[3] = TabellenText(s_.Tab.EOSNamen, m.EOSIndex);
+  if (eos::IstGewaehlt(m.EOSIndex)) panel[3] = TabellenText(s_.Tab.EOSNamen, m.EOSIndex);
   if (m.DampfdruckIndex >= 0)
     panel[4] = "Dampfdruck-Gleichung: " + TabellenText(s_.Tab.DampfdruckNamen, m.DampfdruckIndex);
   if (m.VirialFlag) {

@@ -3,6 +3,8 @@
 #include "substance/modell_wahl.h"
 
 #include "core/zahlformat.h"
+#include "engine/eos_zeilen.h"
+#include "engine/korrelationen.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,14 +65,14 @@ void frmQModell::BaueDampfdruckListe() {
   const auto& namen = s_.Tab.DampfdruckNamen;
   Dampfdruck.Leeren();
   auto hinzu = [&](int16_t i) { Dampfdruck.Hinzu(i, namen[i]); };
-  if (std::abs(st.FrostKalkwarfGrenzen.TLo) > Schwelle) hinzu(3);
-  if (st.WagnerGrenzen.TLo > Schwelle) hinzu(4);
-  if (st.AntoineNd[0] > Schwelle) hinzu(1);
-  if (st.AntoineHd[0] > Schwelle) hinzu(2);
+  if (std::abs(st.FrostKalkwarfGrenzen.TLo) > Schwelle) hinzu(FrostKalkwarfDB);
+  if (st.WagnerGrenzen.TLo > Schwelle) hinzu(WagnerDB);
+  if (st.AntoineNd[0] > Schwelle) hinzu(AntoineNiederdruck);
+  if (st.AntoineHd[0] > Schwelle) hinzu(AntoineHochdruck);
   if (st.TSiede > Schwelle && st.TKrit * st.pKrit > Schwelle)
-    for (int16_t i = 5; i <= 8; ++i)
+    for (int16_t i = AugustKorreliert; i <= AntoineThompson; ++i)
       hinzu(i);
-  if (Dampfdruck.Index.empty()) hinzu(0);
+  if (Dampfdruck.Index.empty()) hinzu(DampfdruckKeine);
   Waehle(Dampfdruck, m.DampfdruckIndex);
   m.DampfdruckIndex = Dampfdruck.Gewaehlt();
   m.DampfdruckTag = DampfdruckTagVon(m.DampfdruckIndex);
@@ -82,25 +84,25 @@ void frmQModell::BaueEOSListe() {
   const StoffGruppe& st = s_.Stoff;
   ModelSelection& m = s_.Modell;
   const bool omega = st.omega != 0;
-  if (m.EOSIndex == -1) m.EOSIndex = omega ? 6 : 4;
+  if (m.EOSIndex == eos::Keine) m.EOSIndex = omega ? eos::PengRobinson : eos::RedlichKwong;
   EOS.Leeren();
   auto hinzu = [&](std::initializer_list<int16_t> indizes) {
     for (int16_t i : indizes)
       EOS.Hinzu(i, s_.Tab.EOSNamen[i]);
   };
-  hinzu({0});
+  hinzu({eos::Idealgas});
   if (st.TKrit > Schwelle && st.pKrit > Schwelle) {
-    hinzu({2, 3, 4});
-    if (omega) hinzu({5, 6, 7, 8});
-    hinzu({10});
-    if (omega) hinzu({16});
-    hinzu({11, 12, 13});
-    if (omega) hinzu({14, 15});
+    hinzu({eos::VanDerWaals, eos::Berthelot, eos::RedlichKwong});
+    if (omega) hinzu({eos::SoaveRedlichKwong, eos::PengRobinson, eos::VarnikJi1, eos::VarnikJi2});
+    hinzu({eos::VirialHand});
+    if (omega) hinzu({eos::VirialPitzerCurl});
+    hinzu({eos::VirialVanDerWaals, eos::VirialBerthelot, eos::VirialRedlichKwong});
+    if (omega) hinzu({eos::VirialSoaveRedlichKwong, eos::VirialPengRobinson});
   }
   const int p = EOS.Position(m.EOSIndex);
   EOS.ListIndex = p >= 0 ? p : 0;
   m.EOSIndex = EOS.Gewaehlt();
-  m.VirialFlag = m.EOSIndex == 0 || m.EOSIndex >= 10;
+  m.VirialFlag = eos::IstVirial(m.EOSIndex);
   if (m.VirialFlag) m.KonzeptGlobal = false;
 }
 
@@ -111,16 +113,16 @@ void frmQModell::BaueHLVListe() {
   HLV.Leeren();
   auto hinzu = [&](int16_t i) { HLV.Hinzu(i, namen[i]); };
   if (st.HLVGrenzen.TLo > Schwelle)
-    hinzu(1);
-  else if (m.HLVIndex == 1)
-    m.HLVIndex = 0;
-  if (st.TKrit * st.pKrit > 1.0) hinzu(2);
-  if (std::fabs(st.omega) > Schwelle && st.TKrit > Schwelle) hinzu(3);
-  if (static_cast<double>(st.WatsonH) * st.WatsonT > Schwelle && st.TKrit > Schwelle) hinzu(4);
-  if (st.RhoLGrenzen.TLo > Schwelle) hinzu(5);
-  if (st.TKrit > Schwelle) hinzu(6);
-  if (std::fabs(st.omega) > Schwelle && !m.VirialFlag) hinzu(7);
-  if (HLV.Index.empty()) hinzu(0);
+    hinzu(HLVGleichung);
+  else if (m.HLVIndex == HLVGleichung)
+    m.HLVIndex = HLVKeine;
+  if (st.TKrit * st.pKrit > 1.0) hinzu(HLVChen);
+  if (std::fabs(st.omega) > Schwelle && st.TKrit > Schwelle) hinzu(HLVCarruthKobayashi);
+  if (static_cast<double>(st.WatsonH) * st.WatsonT > Schwelle && st.TKrit > Schwelle) hinzu(HLVWatson);
+  if (st.RhoLGrenzen.TLo > Schwelle) hinzu(HLVAusRhoL);
+  if (st.TKrit > Schwelle) hinzu(HLVAusBenson);
+  if (std::fabs(st.omega) > Schwelle && !m.VirialFlag) hinzu(HLVAusKubischerEOS);
+  if (HLV.Index.empty()) hinzu(HLVKeine);
   Waehle(HLV, m.HLVIndex);
   m.HLVIndex = HLV.Gewaehlt();
 }
@@ -145,7 +147,7 @@ void frmQModell::BaueWatsonListe() {
     WatsonText = WatsonListe.front();
     m.WatsonExp = 0.38f;
   }
-  WatsonVisible = m.HLVIndex == 4;
+  WatsonVisible = m.HLVIndex == HLVWatson;
 }
 
 // A stored cp equation that the substance lacks moves to the other one, without a message.
@@ -153,18 +155,18 @@ void frmQModell::BaueCpListe() {
   const StoffGruppe& st = s_.Stoff;
   int16_t& cp = s_.Modell.CpIndex;
   Cp.Leeren();
-  if (!st.CpPolyOK && !st.CpSinhOK) Cp.Hinzu(0, s_.Tab.CpNamen[0]);
-  if (st.CpPolyOK) Cp.Hinzu(1, s_.Tab.CpNamen[1]);
-  if (st.CpSinhOK) Cp.Hinzu(2, s_.Tab.CpNamen[2]);
-  if (cp == 0) {
+  if (!st.CpPolyOK && !st.CpSinhOK) Cp.Hinzu(CpKeine, s_.Tab.CpNamen[CpKeine]);
+  if (st.CpPolyOK) Cp.Hinzu(CpPolynom, s_.Tab.CpNamen[CpPolynom]);
+  if (st.CpSinhOK) Cp.Hinzu(CpSinhCosh, s_.Tab.CpNamen[CpSinhCosh]);
+  if (cp == CpKeine) {
     if (st.CpSinhOK)
-      cp = 2;
+      cp = CpSinhCosh;
     else if (st.CpPolyOK)
-      cp = 1;
-  } else if (cp == 1 && !st.CpPolyOK) {
-    cp = st.CpSinhOK ? 2 : 0;
-  } else if (cp == 2 && !st.CpSinhOK) {
-    cp = st.CpPolyOK ? 1 : 0;
+      cp = CpPolynom;
+  } else if (cp == CpPolynom && !st.CpPolyOK) {
+    cp = st.CpSinhOK ? CpSinhCosh : CpKeine;
+  } else if (cp == CpSinhCosh && !st.CpSinhOK) {
+    cp = st.CpPolyOK ? CpPolynom : CpKeine;
   }
   const int p = Cp.Position(cp);
   Cp.ListIndex = p >= 0 ? p : 0;

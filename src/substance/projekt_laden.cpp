@@ -5,11 +5,12 @@
 #include "core/festtext.h"
 #include "core/listen_datei.h"
 #include "core/projekt_datei.h"
+#include "dienste/oberflaeche.h"
+#include "engine/korrelationen.h"
 #include "substance/datenbank.h"
 #include "substance/korrelierte_parameter.h"
 #include "substance/stoff_laden.h"
 #include "substance/stoff_wahl_suche.h"
-#include "dienste/oberflaeche.h"
 
 namespace quor {
 
@@ -70,7 +71,7 @@ bool StoffDesProjekts(ProjectState& s, const std::string& cas, ui::Oberflaeche& 
 // chosen substance.
 void NachDenEinstellungen(ProjectState& s) {
   const StoffGruppe& st = s.Stoff;
-  if (s.Modell.DampfdruckIndex > 5)
+  if (s.Modell.DampfdruckIndex > AugustKorreliert)
     KorrelierteParameter(s, s.Modell.DampfdruckIndex, st.TKrit, st.pKrit, st.TSiede);
   EinheitenGruppe& e = s.Einheiten;
   if (e.TVorgabe == 0) e.TVorgabe = static_cast<float>(st.TKrit);

@@ -2,11 +2,12 @@
 
 #include "core/daten_diagnose.h"
 #include "core/festtext.h"
+#include "dienste/oberflaeche.h"
+#include "engine/korrelationen.h"
 #include "substance/datenbank.h"
 #include "substance/korrelierte_parameter.h"
 #include "substance/stoff_laden.h"
 #include "substance/stoff_wahl_suche.h"
-#include "dienste/oberflaeche.h"
 
 #include <algorithm>
 
@@ -154,7 +155,7 @@ void frmQStoffWahl::StoffLaden() {
   const StoffGruppe& st = s_.Stoff;
   s_.Projekt.StatusLeiste[2] = st.StoffName;
   DatenDiagnose(s_);
-  if (st.pKrit * st.TKrit > 0.1 && st.TSiede > 1e-6 && s_.Modell.DampfdruckIndex >= 6)
+  if (st.pKrit * st.TKrit > 0.1 && st.TSiede > 1e-6 && s_.Modell.DampfdruckIndex >= FrostKalkwarfVdW)
     KorrelierteParameter(s_, s_.Modell.DampfdruckIndex, st.TKrit, st.pKrit, st.TSiede);
   MenueFreigaben& f = s_.Projekt.Freigaben;
   f.Stoff = true;
