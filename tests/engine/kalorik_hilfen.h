@@ -3,7 +3,7 @@
 #pragma once
 
 #include "engine/kalorik.h"
-#include "engine/stoffe.h"
+#include "stoffe.h"
 
 #include <array>
 #include <cmath>

@@ -3,10 +3,11 @@
 #pragma once
 
 #include "core/project_state.h"
+#include "dienste/skript_oberflaeche.h"
 #include "engine/eos_parameter.h"
 #include "engine/saettigung.h"
 #include "engine/zustand.h"
-#include "dienste/skript_oberflaeche.h"
+#include "support/temp_ordner.h"
 
 #include <array>
 #include <cstdint>
@@ -31,11 +32,18 @@ inline const std::array<StoffDaten, 5> AlleStoffe{Methan, Wasser, Eikosan, Heliu
 inline const std::array<int16_t, 7> KubischeZeilen{2, 3, 4, 5, 6, 7, 8};
 inline const std::array<int16_t, 14> AlleZeilen{0, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 15};
 
+// The program directory of these states, where the Varnik/Ji set-up leaves its input file.
+inline std::string ProgrammOrdner() {
+  static const TempOrdner ordner("quor_engine_");
+  return ordner.Pfad();
+}
+
 // A state with the substance and the model chosen as the model dialog does it, after the set-up.
 // The Varnik/Ji rows get a hand-made parameter set (the parameter program is not part of tests).
 inline ProjectState ZustandMit(const StoffDaten& d, int16_t index) {
   ProjectState s;
   InitProjectState(s);
+  s.Datenbank.ProgrammVerzeichnis = ProgrammOrdner();
   s.Stoff.StoffName = d.name;
   s.Stoff.MolMasse = d.MolMasse;
   s.Stoff.TSiede = d.TSiede;

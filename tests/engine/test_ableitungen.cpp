@@ -1,7 +1,7 @@
 // Mechanical derivatives of the EOS against finite differences of p(T,v), v(T,p) and T(p,v); the
 // mechanical coefficients; the inflection points of the isotherm.
 #include "engine/ableitungen.h"
-#include "engine/kalorik_hilfen.h"
+#include "kalorik_hilfen.h"
 #include "support/relativ.h"
 
 #include <cmath>

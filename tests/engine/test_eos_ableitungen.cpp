@@ -1,6 +1,6 @@
 // Temperature derivatives of a, b, c, d and of a/(R*T) against central differences of EOSbeiT.
 #include "engine/eos_auswertung.h"
-#include "engine/stoffe.h"
+#include "stoffe.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

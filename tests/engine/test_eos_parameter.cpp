@@ -3,7 +3,7 @@
 #include "core/zahlformat.h"
 #include "engine/eos_auswertung.h"
 #include "engine/kubisch.h"
-#include "engine/stoffe.h"
+#include "stoffe.h"
 #include "support/relativ.h"
 
 #include <gtest/gtest.h>
@@ -80,7 +80,9 @@ TEST(EOSParameter, SetUpWipesHandInputAndSkipsMissingCriticalData) {
   EXPECT_TRUE(ui.Meldungen().empty());
 }
 
-TEST(EOSParameter, FailuresBecomeTheFlagAndTheirMessages) {
+// An overflowing set-up ends in the flag and its message, nothing of it kept. (The Varnik/Ji rows
+// without their parameter program fail with messages of their own, see the Varnik/Ji tests.)
+TEST(EOSParameter, FailureBecomesTheFlagAndItsMessage) {
   ProjectState s = ZustandMit(Methan, 2);
   s.Stoff.TKrit = 1e200; // a0 overflows
   s.Stoff.pKrit = 1e-100;
@@ -90,19 +92,9 @@ TEST(EOSParameter, FailuresBecomeTheFlagAndTheirMessages) {
   EXPECT_GT(err, 0);
   EXPECT_EQ(s.EOS.a0, 0.0);
   EXPECT_EQ(s.EOS.vKritEOS, 0.0);
-  // The Varnik/Ji rows without a parameter file.
-  s = ZustandMit(Methan, 2);
-  s.Modell.EOSIndex = 8;
-  EOSParameterSetup(s, ui, 8, err);
-  EXPECT_GT(err, 0);
-  EXPECT_EQ(s.EOS.vKritEOS, 0.0);
-  const auto m = ui.Meldungen();
-  ASSERT_EQ(m.size(), 3u);
-  EXPECT_EQ(m[0].text, "Fehler bei der EOS-Parameterberechnung");
-  EXPECT_EQ(m[1].text, "Kein Parameterfile erzeugt.");
-  EXPECT_EQ(m[2].text, "Fehler bei der EOS-Parameterberechnung (Varnik-Ji-Modell)");
-  for (const auto& meldung : m)
-    EXPECT_EQ(meldung.titel, "Ausführung nicht möglich");
+  ASSERT_EQ(ui.Meldungen().size(), 1u);
+  EXPECT_EQ(ui.Letzte().text, "Fehler bei der EOS-Parameterberechnung");
+  EXPECT_EQ(ui.Letzte().titel, "Ausführung nicht möglich");
 }
 
 // The denominator (v+c)*(v+d) = v^2 + u*b*v - u*b^2 with u = JiU; at T = TKrit alpha = 1 exactly

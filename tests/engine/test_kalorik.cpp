@@ -1,7 +1,7 @@
 // Residual and caloric functions against independent routes: ln phi and the residual h, s as
 // integrals of the EOS along the isotherm, temperature derivatives against differences, cp, cv and
 // the speed of sound against their definitions, the ideal gas, the exergies and saturation.
-#include "engine/kalorik_hilfen.h"
+#include "kalorik_hilfen.h"
 #include "engine/kubisch.h"
 #include "support/relativ.h"
 

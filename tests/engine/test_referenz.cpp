@@ -3,7 +3,7 @@
 #include "core/zahlformat.h"
 #include "engine/korrelationen.h"
 #include "engine/referenz.h"
-#include "engine/stoffe.h"
+#include "stoffe.h"
 #include "support/relativ.h"
 
 #include <cmath>

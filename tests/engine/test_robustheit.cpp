@@ -1,6 +1,6 @@
 // Every solver over a wide grid of states, models and substances: each call returns finite numbers
 // or its failure flag, never NaN or Inf.
-#include "engine/stoffe.h"
+#include "stoffe.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -8,7 +8,8 @@
 #include "engine/korrelationen.h"
 #include "engine/saettigung.h"
 #include "engine/varnik_ji.h"
-#include "engine/varnik_ji_hilfen.h"
+#include "support/cubpar_lauf.h"
+#include "support/temp_ordner.h"
 #include "engine/zustand.h"
 #include "support/relativ.h"
 
@@ -21,7 +22,7 @@
 namespace quor {
 namespace {
 
-using namespace quor::test::ji;
+using namespace quor::test;
 
 // The numbers of a parameter file, read here with the C library, independently of the program.
 std::vector<double> Zahlen(const std::string& datei) {
@@ -38,7 +39,7 @@ std::vector<double> Zahlen(const std::string& datei) {
 }
 
 // Methane set up for model `modell` with the parameter program really run.
-ProjectState Eingerichtet(int16_t modell, const std::string& tag, const JiVerzeichnis& dir, int16_t& err,
+ProjectState Eingerichtet(int16_t modell, const std::string& tag, const TempOrdner& dir, int16_t& err,
                           ui::SkriptOberflaeche& ui) {
   StelleCubparBereit(dir.Pfad());
   ProjectState s = MethanFuerJi(modell, tag, dir.Pfad());
@@ -49,7 +50,7 @@ ProjectState Eingerichtet(int16_t modell, const std::string& tag, const JiVerzei
 
 TEST(Cubpar, ItsParameterFileIsReadBackIntoJiParameter) {
   for (int16_t modell : {7, 8}) {
-    JiVerzeichnis dir;
+    TempOrdner dir;
     ui::SkriptOberflaeche ui = EchteProzesse();
     int16_t err = 0;
     ProjectState s = Eingerichtet(modell, "FRO", dir, err, ui);
@@ -104,7 +105,7 @@ TEST(Cubpar, FittedModelFollowsTheSubstanceEquationsOfEveryBlock) {
   const Fall faelle[] = {{"FRO", 91, 182.9}, {"WAG", 91, 182.9}, {"AUG", 111.66, 182.9}, {"AHP", 112, 181},
                          {"KFW", 91, 182.9}, {"KFR", 91, 182.9}, {"THO", 91, 111.66},    {"000", 91, 111}};
   for (const Fall& f : faelle) {
-    JiVerzeichnis dir;
+    TempOrdner dir;
     ui::SkriptOberflaeche ui = EchteProzesse();
     int16_t err = 0;
     ProjectState s = Eingerichtet(7, f.tag, dir, err, ui);
@@ -118,7 +119,7 @@ TEST(Cubpar, FittedModelFollowsTheSubstanceEquationsOfEveryBlock) {
 // With no vapour-pressure data at all (no tag and an empty Antoine block) the program has nothing
 // to fit and writes nothing; an input it cannot read ends it the same way.
 TEST(Cubpar, WritesNothingWhenItHasNothingToFit) {
-  JiVerzeichnis dir;
+  TempOrdner dir;
   StelleCubparBereit(dir.Pfad());
   ProjectState s = MethanFuerJi(7, "000", dir.Pfad());
   s.Stoff.AntoineNd = {0, 0, 0};
@@ -150,7 +151,7 @@ TEST(Cubpar, WritesNothingWhenItHasNothingToFit) {
 // saturation line; dp/dT here by a central difference of the program's p(LV) over +-0.5 K.
 TEST(VarnikJi, FullCalculationAfterTheSetUp) {
   for (int16_t modell : {7, 8}) {
-    JiVerzeichnis dir;
+    TempOrdner dir;
     ui::SkriptOberflaeche ui = EchteProzesse();
     int16_t err = 0;
     ProjectState s = Eingerichtet(modell, "FRO", dir, err, ui);

@@ -1,6 +1,6 @@
 // Second virial coefficients: the low-pressure limit of the cubic models, the temperature laws,
 // and dB/dT, d2B/dT2 against central differences.
-#include "engine/stoffe.h"
+#include "stoffe.h"
 #include "engine/virial.h"
 #include "support/relativ.h"
 

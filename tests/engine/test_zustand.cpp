@@ -1,6 +1,6 @@
 // v(T,p) with its regions and phases, p(T,v) and T(p,rho), with their round trips.
 #include "engine/eos_auswertung.h"
-#include "engine/stoffe.h"
+#include "stoffe.h"
 #include "engine/virial.h"
 #include "support/relativ.h"
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "core/project_state.h"
-#include "substance/modell_wahl.h"
 #include "dienste/skript_oberflaeche.h"
+#include "substance/modell_wahl.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,9 @@
 // Database files put together byte by byte from the record layout, independent of the program's
-// own record class, and a scratch directory for them.
+// own record class.
 #pragma once
 
 #include <cstdint>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -76,27 +73,5 @@ inline std::string RohDatei(int typ, int16_t anzahl, const std::vector<RohSatz>&
     d += s.Roh();
   return d;
 }
-
-// A fresh directory that is removed with the object.
-class TempVerzeichnis {
-public:
-  TempVerzeichnis() {
-    pfad_ = std::filesystem::temp_directory_path() / ("quor_db_" + std::to_string(std::random_device{}()));
-    std::filesystem::create_directories(pfad_);
-  }
-  ~TempVerzeichnis() {
-    std::error_code ec;
-    std::filesystem::remove_all(pfad_, ec);
-  }
-  std::string Pfad() const { return pfad_.string(); }
-  std::string Datei(const std::string& name, const std::string& bytes) const {
-    const std::string p = (pfad_ / name).string();
-    std::ofstream(p, std::ios::binary) << bytes;
-    return p;
-  }
-
-private:
-  std::filesystem::path pfad_;
-};
 
 } // namespace quor::test

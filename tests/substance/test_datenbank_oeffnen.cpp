@@ -1,10 +1,11 @@
 // Opening database files: the lists, the kinds, and every broken file ending in the user's message
 // with the earlier state kept.
 #include "core/text_kodierung.h"
+#include "dienste/skript_oberflaeche.h"
 #include "rohdatei.h"
 #include "substance/datenbank.h"
 #include "substance/stoff_laden.h"
-#include "dienste/skript_oberflaeche.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +17,7 @@ namespace {
 
 using test::RohDatei;
 using test::RohSatz;
-using test::TempVerzeichnis;
+using test::TempOrdner;
 
 RohSatz Stoff(int typ, int16_t nummer, const std::string& formel, const std::string& name,
               const std::string& cas) {
@@ -36,11 +37,11 @@ std::string ZweiStoffe(int typ) {
 TEST(DatenbankOeffnen, BuildsTheFourListsFromEveryRecordOfBothKinds) {
   for (int typ : {7, 6}) {
     SCOPED_TRACE(typ);
-    TempVerzeichnis dir;
+    TempOrdner dir;
     ProjectState s;
     int16_t failed = 0;
     bool leer = true;
-    const std::string pfad = dir.Datei("A.Q0x", ZweiStoffe(typ));
+    const std::string pfad = dir.Schreibe("A.Q0x", ZweiStoffe(typ));
     LadeDatenbank(s, typ, pfad, failed, leer);
     ASSERT_EQ(failed, 0);
     EXPECT_FALSE(leer);
@@ -73,8 +74,8 @@ TEST(DatenbankOeffnen, EnglishInterfaceTakesTheEnglishNames) {
 }
 
 TEST(DatenbankOeffnen, NameWithoutDirectoryIsLookedUpInTheProgramDirectory) {
-  TempVerzeichnis dir;
-  dir.Datei("EIGEN.Q07", ZweiStoffe(7));
+  TempOrdner dir;
+  dir.Schreibe("EIGEN.Q07", ZweiStoffe(7));
   ProjectState s;
   EXPECT_FALSE(DateiVorhanden(s, "EIGEN.Q07")); // no program directory: the working directory
   s.Datenbank.ProgrammVerzeichnis = dir.Pfad();
@@ -90,11 +91,11 @@ TEST(DatenbankOeffnen, NameWithoutDirectoryIsLookedUpInTheProgramDirectory) {
 }
 
 TEST(DatenbankOeffnen, CountZeroIsAnEmptyDatabaseNotABrokenOne) {
-  TempVerzeichnis dir;
+  TempOrdner dir;
   ProjectState s;
   int16_t failed = 0;
   bool leer = false;
-  LadeDatenbank(s, 7, dir.Datei("LEER.Q07", RohDatei(7, 0, {})), failed, leer);
+  LadeDatenbank(s, 7, dir.Schreibe("LEER.Q07", RohDatei(7, 0, {})), failed, leer);
   EXPECT_EQ(failed, 0);
   EXPECT_TRUE(leer);
   EXPECT_FALSE(s.Datenbank.DatenbankGeladen);
@@ -119,12 +120,12 @@ std::vector<KaputteDatei> KaputteDateien() {
 }
 
 TEST(DatenbankOeffnen, BrokenFilesFailWithTheMessageWhenNothingIsLoaded) {
-  TempVerzeichnis dir;
+  TempOrdner dir;
   for (const KaputteDatei& k : KaputteDateien()) {
     SCOPED_TRACE(k.name);
     ProjectState s;
     ui::SkriptOberflaeche ui;
-    const std::string pfad = dir.Datei("K.Q07", k.bytes);
+    const std::string pfad = dir.Schreibe("K.Q07", k.bytes);
     EXPECT_FALSE(DatenbankOeffnen(s, 7, pfad, ui));
     ASSERT_EQ(ui.Meldungen().size(), 1u);
     EXPECT_EQ(ui.Letzte().text, "Datenbank " + pfad + " nicht gefunden bzw. leer");
@@ -137,16 +138,16 @@ TEST(DatenbankOeffnen, BrokenFilesFailWithTheMessageWhenNothingIsLoaded) {
 }
 
 TEST(DatenbankOeffnen, BrokenOrMissingFileKeepsTheEarlierDatabase) {
-  TempVerzeichnis dir;
+  TempOrdner dir;
   ProjectState s;
   ui::SkriptOberflaeche ui;
-  const std::string gut = dir.Datei("GUT.Q07", ZweiStoffe(7));
+  const std::string gut = dir.Schreibe("GUT.Q07", ZweiStoffe(7));
   ASSERT_TRUE(DatenbankOeffnen(s, 7, gut, ui));
   std::vector<KaputteDatei> faelle = KaputteDateien();
   faelle.push_back({"Anzahl 0", RohDatei(7, 0, {})});
   for (const KaputteDatei& k : faelle) {
     SCOPED_TRACE(k.name);
-    const std::string pfad = dir.Datei("K.Q07", k.bytes);
+    const std::string pfad = dir.Schreibe("K.Q07", k.bytes);
     EXPECT_FALSE(DatenbankOeffnen(s, 7, pfad, ui));
     EXPECT_EQ(ui.Letzte().text, "Datenbank " + pfad +
                                     " im QUOR-Verzeichnis nicht gefunden bzw. leer.\r\n"
@@ -197,7 +198,7 @@ TEST(DatenbankOeffnen, GarbageTextBytesBecomeCharactersAndNothingBreaks) {
 }
 
 TEST(DatenbankOeffnen, FileDialogOffersTheKindAndCancelLoadsNothing) {
-  TempVerzeichnis dir;
+  TempOrdner dir;
   ProjectState s;
   ui::SkriptOberflaeche ui;
   bool cancelled = false;
@@ -209,7 +210,7 @@ TEST(DatenbankOeffnen, FileDialogOffersTheKindAndCancelLoadsNothing) {
   EXPECT_EQ(ui.dateiDialoge[0].titel.rfind("Datenbank *.Q06 laden (", 0), 0u);
   EXPECT_TRUE(ui.Meldungen().empty());
 
-  ui.dateien.push_back(dir.Datei("B.Q07", ZweiStoffe(7)));
+  ui.dateien.push_back(dir.Schreibe("B.Q07", ZweiStoffe(7)));
   WaehleDatenbank(s, 7, cancelled, ui);
   EXPECT_FALSE(cancelled);
   EXPECT_EQ(s.Datenbank.StoffAnzahl, 2);

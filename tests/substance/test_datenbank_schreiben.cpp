@@ -5,6 +5,7 @@
 #include "substance/datenbank.h"
 #include "substance/datenbank_schreiben.h"
 #include "substance/stoff_laden.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,7 @@ namespace {
 
 using test::RohDatei;
 using test::RohSatz;
-using test::TempVerzeichnis;
+using test::TempOrdner;
 
 // Every cell distinct, reserved texts filled, a German name with an umlaut (0xE4 in Windows-1252).
 RohSatz Alt(int typ) {
@@ -47,7 +48,7 @@ const int Unberuehrt[] = {1,  2,  3,  4,  5,  11, 12, 23,  35,  41,  47,  60,  6
 TEST(DatenbankSchreiben, OneSubstanceFileKeepsWhatTheProgramDoesNotHold) {
   for (int typ : {7, 6}) {
     SCOPED_TRACE(typ);
-    TempVerzeichnis dir;
+    TempOrdner dir;
     const RohSatz alt = Alt(typ);
     ProjectState s = Geladen(typ, alt);
     s.Datenbank.ProgrammVerzeichnis = dir.Pfad();
@@ -98,7 +99,7 @@ TEST(DatenbankSchreiben, OneSubstanceFileKeepsWhatTheProgramDoesNotHold) {
 }
 
 TEST(DatenbankSchreiben, WithoutAnOldRecordTheRestIsBlank) {
-  TempVerzeichnis dir;
+  TempOrdner dir;
   ProjectState s;
   s.Datenbank.ProgrammVerzeichnis = dir.Pfad();
   s.Stoff.StoffName = "Neu";

@@ -1,8 +1,8 @@
 // The model window as the user changes it: virial models force PARTIAL and lose the cubic route
 // for delta(LV)h, cubic ones bring both back; the hand-input virial dialog; the omega warning; the
 // vapour-pressure choice with its correlated parameters.
+#include "modell_wahl_hilfe.h"
 #include "substance/b_par_input.h"
-#include "substance/modell_wahl_hilfe.h"
 
 namespace quor {
 namespace {

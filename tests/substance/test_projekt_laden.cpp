@@ -1,54 +1,36 @@
 // Loading projects against the default database: the substance found again by CAS number with its
 // models and options, the database kind from the path, a missing database or substance, a file that
 // breaks off, and the preview of the open dialog with its refusals.
-#include "core/datei_io.h"
 #include "core/projekt_datei.h"
 #include "core/text_kodierung.h"
-#include "substance/datenbank.h"
+#include "dienste/skript_oberflaeche.h"
 #include "substance/korrelierte_parameter.h"
 #include "substance/projekt_laden.h"
-#include "substance/stoff_laden.h"
 #include "substance/stoff_wahl_suche.h"
-#include "dienste/skript_oberflaeche.h"
+#include "support/stoff_fixture.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
 
 namespace quor {
 namespace {
 
-namespace fs = std::filesystem;
-
-constexpr const char* CASEthanol = "64-17-5";
+using namespace quor::test;
 
 class ProjektLadenTest : public ::testing::Test {
 protected:
-  void SetUp() override {
-    ordner = fs::temp_directory_path() /
-             ("quor_laden_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::remove_all(ordner);
-    fs::create_directories(ordner);
-    s = Frisch();
-  }
-  void TearDown() override { fs::remove_all(ordner); }
-
   static ProjectState Frisch() {
     ProjectState st;
     InitProjectState(st);
-    st.Datenbank.ProgrammVerzeichnis = QUOR_PROGRAMM_VERZEICHNIS;
+    st.Datenbank.ProgrammVerzeichnis = ProgrammVerzeichnis;
     return st;
   }
 
   // Ethanol from the default database with PARTIAL Peng/Robinson, Thompson's vapour pressure,
   // the Chen method and the cp polynomial, measured data from a batch file.
   static ProjectState Quelle() {
-    ProjectState q = Frisch();
-    int16_t failed = 0;
-    bool leer = false;
-    LadeDatenbank(q, 7, "QUOR.Q07", failed, leer);
-    EXPECT_EQ(failed, 0);
-    LadeStoff(q, IndexVonCAS(q, CASEthanol), failed);
+    ProjectState q = StoffAusStandardDatenbank(CasEthanol);
+    q.Datenbank.PfadQ07 = "QUOR.Q07"; // as a project names the default database
     ModelSelection& m = q.Modell;
     m.EOSIndex = 6;
     m.DampfdruckIndex = 8;
@@ -63,9 +45,7 @@ protected:
   }
 
   std::string Datei(const std::string& name, const std::string& text) {
-    const std::string pfad = (ordner / name).string();
-    EXPECT_TRUE(SchreibeDateiBytes(pfad, Utf8ZuWin1252(text)));
-    return pfad;
+    return ordner.Schreibe(name, Utf8ZuWin1252(text));
   }
 
   // Loads `pfad`; `failed` as returned.
@@ -75,8 +55,15 @@ protected:
     return failed;
   }
 
-  fs::path ordner;
-  ProjectState s;
+  void DatenbankLaden() {
+    int16_t failed = 0;
+    bool leer = false;
+    LadeDatenbank(s, 7, "QUOR.Q07", failed, leer);
+    ASSERT_EQ(failed, 0);
+  }
+
+  TempOrdner ordner;
+  ProjectState s = Frisch();
   ui::SkriptOberflaeche ui;
   std::string batch;
   int16_t kind = -1;
@@ -91,7 +78,7 @@ TEST_F(ProjektLadenTest, AProjectBringsBackItsDatabaseSubstanceAndModels) {
   EXPECT_TRUE(s.Datenbank.DatenbankGeladen);
   EXPECT_EQ(s.Datenbank.PfadQ07, "QUOR.Q07");
   EXPECT_EQ(s.Stoff.StoffName, "Ethanol");
-  EXPECT_EQ(s.Datenbank.StoffIndex, IndexVonCAS(s, CASEthanol));
+  EXPECT_EQ(s.Datenbank.StoffIndex, IndexVonCAS(s, CasEthanol));
   EXPECT_EQ(s.Projekt.StatusLeiste[2], "Ethanol");
   EXPECT_NE(s.Projekt.Ampel.DatenAmpel, 0); // the data are graded as after a choice in the list
   EXPECT_TRUE(s.Projekt.Freigaben.Stoff);
@@ -101,12 +88,8 @@ TEST_F(ProjektLadenTest, AProjectBringsBackItsDatabaseSubstanceAndModels) {
   EXPECT_EQ(s.Projekt.ProjektDatum, "05.06.2024 07:08:09");
   EXPECT_FALSE(s.Projekt.LetzteSitzung);
 
-  EXPECT_EQ(s.Modell.EOSIndex, 6);
-  EXPECT_EQ(s.Modell.DampfdruckIndex, 8);
+  EXPECT_EQ(s.Modell.EOSIndex, 6); // the settings themselves are the project file's round trip
   EXPECT_EQ(s.Modell.DampfdruckTag, "THO");
-  EXPECT_EQ(s.Modell.HLVIndex, 2);
-  EXPECT_EQ(s.Modell.CpIndex, 1);
-  EXPECT_FALSE(s.Modell.KonzeptGlobal);
   // Saved without manual normalisation: the presets come from the critical point.
   EXPECT_EQ(s.Einheiten.TVorgabe, static_cast<float>(s.Stoff.TKrit));
   EXPECT_EQ(s.Einheiten.pVorgabe, static_cast<float>(s.Stoff.pKrit));
@@ -134,9 +117,7 @@ TEST_F(ProjektLadenTest, ADatabasePathEndingInALetterLoadsNoDatabaseAndSaysNothi
   const std::string pfad = Datei("x.QC6", text);
 
   // With a database held, the substance is looked for there.
-  int16_t failed = 0;
-  bool leer = false;
-  LadeDatenbank(s, 7, "QUOR.Q07", failed, leer);
+  DatenbankLaden();
   ASSERT_EQ(Laden(pfad), 0);
   EXPECT_EQ(kind, 0);
   EXPECT_TRUE(ui.protokoll.empty());
@@ -162,9 +143,7 @@ TEST_F(ProjektLadenTest, AMissingDatabaseStopsTheLoadOnlyWhenNoneIsHeld) {
   EXPECT_EQ(s.Modell.EOSIndex, -1);
   EXPECT_FALSE(s.Projekt.Freigaben.Stoff);
 
-  int16_t failed = 0;
-  bool leer = false;
-  LadeDatenbank(s, 7, "QUOR.Q07", failed, leer);
+  DatenbankLaden();
   ui.protokoll.clear();
   EXPECT_EQ(Laden(pfad), 0);
   ASSERT_EQ(ui.Meldungen().size(), 1u);
@@ -212,7 +191,7 @@ TEST_F(ProjektLadenTest, ATruncatedFileLeavesThePartlyUpdatedState) {
 }
 
 TEST_F(ProjektLadenTest, AMissingFileIsReported) {
-  const std::string pfad = (ordner / "nichtda.QC6").string();
+  const std::string pfad = ordner.Datei("nichtda.QC6");
   EXPECT_EQ(Laden(pfad), -1);
   EXPECT_EQ(ui.Letzte().text, "Meldung von Sub ProjektLaden:\r\nDatei nicht gefunden\r\n" + pfad);
 }
@@ -226,9 +205,7 @@ TEST_F(ProjektLadenTest, ThePreviewShowsTheHeadWithTheSubstanceOfTheOpenDatabase
                   "Datenbank:       QUOR.Q07\r\n"
                   "exper. Daten:    etoh.BAQ (9 Punkte)\r\n"
                   "CAS-Nr.:         64-17-5  (Stoff nicht in aktueller Datenbank gefunden)");
-  int16_t failed = 0;
-  bool leer = false;
-  LadeDatenbank(s, 7, "QUOR.Q07", failed, leer);
+  DatenbankLaden();
   ASSERT_TRUE(ProjektVorschau(s, pfad, text, ui));
   EXPECT_NE(text.find("CAS-Nr.:         64-17-5  Ethanol"), std::string::npos) << text;
   EXPECT_TRUE(ui.protokoll.empty());

@@ -1,8 +1,12 @@
 // The substance search of the default database: by list name, CAS number, system number and
-// synonym with the German spellings, and what it tells when nothing is found.
-#include "substance/rohdatei.h"
-#include "substance/stoff_wahl_hilfe.h"
+// synonym (the spelling rules of the key are the synonym tests'), and what it tells when nothing is
+// found.
+#include "dienste/skript_oberflaeche.h"
 #include "substance/stoff_wahl_suche.h"
+#include "support/stoff_fixture.h"
+#include "support/temp_ordner.h"
+
+#include <gtest/gtest.h>
 
 namespace quor {
 namespace {
@@ -30,9 +34,6 @@ TEST(StoffSuchen, FindsByNameCasNumberAndSynonym) {
   EXPECT_EQ(Suchen(s, ui, "64-17-5").index, ethanol);  // the list's CAS number
   EXPECT_EQ(Suchen(s, ui, "Methane").index, methan);   // an English synonym
   EXPECT_EQ(Suchen(s, ui, "Äthanol").index, ethanol);  // the old German spelling
-  EXPECT_EQ(Suchen(s, ui, "Kohlendioxyd").index, Position(s, "Kohlendioxid"));
-  EXPECT_EQ(Suchen(s, ui, "Essigsaeure").index, Position(s, "Essigsäure"));
-  EXPECT_EQ(Suchen(s, ui, "Me-Ethylketon").index, Position(s, "Methylethylketon"));
   EXPECT_TRUE(ui.protokoll.empty());
 }
 
@@ -59,8 +60,8 @@ TEST(StoffSuchen, KeepsTheCurrentEntryWhenNothingIsFound) {
 }
 
 TEST(StoffSuchen, TellsOfASynonymWhoseSubstanceIsNotInTheDatabase) {
-  TempVerzeichnis dir;
-  dir.Datei("SYNOM7.TXT", "1-1-1\r\nXu_Unob en_Unob de\r\nUNOBTANIUM\r\n\r\nEND\r\n");
+  TempOrdner dir;
+  dir.Schreibe("SYNOM7.TXT", "1-1-1\r\nXu_Unob en_Unob de\r\nUNOBTANIUM\r\n\r\nEND\r\n");
   ProjectState s = MitStandardDatenbank(dir.Pfad());
   ui::SkriptOberflaeche ui;
   const Ergebnis e = Suchen(s, ui, "Unobtanium", 3);

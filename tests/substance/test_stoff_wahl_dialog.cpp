@@ -1,8 +1,11 @@
 // The dialog of the substance choice: its list and labels, the number field, the two Enter presses
 // on a name, and what OK does with the substance, the measured data and the menus.
+#include "dienste/skript_oberflaeche.h"
 #include "substance/stoff_wahl.h"
-#include "substance/stoff_wahl_hilfe.h"
 #include "substance/stoff_wahl_suche.h"
+#include "support/stoff_fixture.h"
+
+#include <gtest/gtest.h>
 
 namespace quor {
 namespace {
@@ -103,7 +106,7 @@ TEST(frmQStoffWahl, FailedSearchShowsTheCurrentEntryAgainAndLoadsNothing) {
   d.frm.List1_Click(4);
   d.frm.NameCombo = "Metha";
   EXPECT_EQ(d.frm.NameCombo_KeyEnter(), StoffWahlAktion::Nichts);
-  EXPECT_EQ(d.ui.Letzte().text, "Unter dieser Bezeichnung nichts gefunden.");
+  EXPECT_EQ(d.ui.Meldungen().size(), 1u); // the search's message
   EXPECT_EQ(d.frm.NameCombo, NameOhneZusatz(d.s.Datenbank.NamenListe[5]));
   EXPECT_EQ(d.frm.Text1, std::to_string(d.s.Datenbank.MDBNummern[5]));
   d.frm.NameCombo = "Metha";

@@ -2,16 +2,16 @@
 // the short forms; the synonym file in both encodings with its "END" line; the synonym block of a CAS
 // number and the messages for a missing file.
 #include "core/text_kodierung.h"
-#include "substance/rohdatei.h"
-#include "substance/synonyme.h"
 #include "dienste/skript_oberflaeche.h"
+#include "substance/synonyme.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
 
 namespace quor {
 namespace {
 
-using test::TempVerzeichnis;
+using test::TempOrdner;
 
 // Three blocks, the "END" line, and one block behind it that must never be read.
 const std::string SynonymText = "74-82-8\r\n"
@@ -36,12 +36,12 @@ const std::string SynonymText = "74-82-8\r\n"
                                 "\r\n";
 
 struct Suche {
-  TempVerzeichnis dir;
+  TempOrdner dir;
   ProjectState s;
   ui::SkriptOberflaeche ui;
   explicit Suche(const std::string& bytes, const std::string& name = "SYNOM7.TXT") {
     s.Datenbank.ProgrammVerzeichnis = dir.Pfad();
-    if (!bytes.empty()) dir.Datei(name, bytes);
+    if (!bytes.empty()) dir.Schreibe(name, bytes);
   }
   // CAS line of the hit, "END" for none.
   std::string CAS(const std::string& text) {
@@ -53,22 +53,16 @@ struct Suche {
   }
 };
 
+// One case of each kind of rule: the umlaut of an old spelling, K and Z for C, ph for f, the short
+// forms, umlauts spelt out, and what is dropped from the key.
 TEST(NameNormieren, BringsEachGermanSpellingToTheCSpelling) {
   const std::vector<std::pair<std::string, std::string>> faelle{{"Äthan", "ETHAN"},
-                                                                {"äthylenglykol", "ETHYLENGLYCOL"},
                                                                 {"Karbonat", "CARBONAT"},
-                                                                {"Sulphid", "SULFID"},
-                                                                {"Azeton", "ACETON"},
-                                                                {"sek-Butanol", "SECBUTANOL"},
                                                                 {"Zyklohexan", "CYCLOHEXAN"},
-                                                                {"Zyclohexan", "CYCLOHEXAN"},
-                                                                {"Cyklohexan", "CYCLOHEXAN"},
-                                                                {"n-Dekan", "NDECAN"},
-                                                                {"o-Kresol", "OCRESOL"},
+                                                                {"Sulphid", "SULFID"},
+                                                                {"sek-Butanol", "SECBUTANOL"},
                                                                 {"Essigsaeure", "ESSIGSÄURE"},
-                                                                {"essigsäure", "ESSIGSÄURE"},
                                                                 {"Me-Ethylketon", "METHYLETHYLKETON"},
-                                                                {"Et-Acetat", "ETHYLACETAT"},
                                                                 {"(R)-2-[Chlor].methan", "R2CHLORMETHAN"},
                                                                 {"Methyl propan", "METHYLPROPAN"}};
   for (const auto& [eingabe, schluessel] : faelle)

@@ -7,9 +7,9 @@
 #include "engine/korrelationen.h"
 #include "engine/saettigung.h"
 #include "engine/varnik_ji.h"
-#include "engine/varnik_ji_hilfen.h"
-#include "substance/datenbank.h"
-#include "substance/stoff_laden.h"
+#include "support/cubpar_lauf.h"
+#include "support/stoff_fixture.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
 
@@ -19,21 +19,7 @@
 namespace quor {
 namespace {
 
-using namespace quor::test::ji;
-
-ProjectState MitStoff(const std::string& cas) {
-  ProjectState s;
-  InitProjectState(s);
-  int16_t failed = 0;
-  bool leer = false;
-  LadeDatenbank(s, 7, std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/QUOR.Q07", failed, leer);
-  EXPECT_EQ(failed, 0);
-  for (int k = 1; k <= s.Datenbank.StoffAnzahl; ++k)
-    if (s.Datenbank.CASListe[k] == cas) LadeStoff(s, k, failed);
-  EXPECT_EQ(s.Stoff.CASRN, cas);
-  s.Modell.DampfdruckIndex = DampfdruckIndexVon(s.Modell.DampfdruckTag);
-  return s;
-}
+using namespace quor::test;
 
 // The fitted range: 0.45 to 0.96 TKrit within the limits of the function.
 void Bereich(const ProjectState& s, const TGrenzen& g, double& von, double& bis) {
@@ -81,9 +67,9 @@ class JiGuete : public ::testing::TestWithParam<const char*> {};
 TEST_P(JiGuete, FitFollowsVapourPressureAndLiquidDensity) {
   double skaliert[2] = {0, 0};
   for (int16_t modell : {7, 8}) {
-    JiVerzeichnis dir;
+    TempOrdner dir;
     StelleCubparBereit(dir.Pfad());
-    ProjectState s = MitStoff(GetParam());
+    ProjectState s = StoffAusStandardDatenbank(GetParam());
     s.Datenbank.ProgrammVerzeichnis = dir.Pfad();
     s.Modell.EOSIndex = modell;
     ui::SkriptOberflaeche ui = EchteProzesse();

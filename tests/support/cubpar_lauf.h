@@ -1,65 +1,21 @@
-// What the Varnik/Ji tests share: a scratch program directory, a starter that runs the child process
-// for real behind the scripted user interface, and methane with every vapour-pressure block filled.
+// What the Varnik/Ji tests share: a starter that runs the parameter program for real behind the
+// scripted user interface, and methane with every vapour-pressure block filled.
 #pragma once
 
 #include "core/project_state.h"
-#include "engine/korrelationen.h"
+#include "dienste/kind_prozess.h"
 #include "dienste/skript_oberflaeche.h"
-
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include "engine/korrelationen.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <string>
 
-// In a namespace of their own: the test programs link helpers of other folders with like names.
-namespace quor::test::ji {
+namespace quor::test {
 
-// A fresh directory below the system's temporary folder, removed with everything in it at the end.
-class JiVerzeichnis {
-public:
-  JiVerzeichnis() {
-    std::string muster = (std::filesystem::temp_directory_path() / "quor_ji_XXXXXX").string();
-    if (mkdtemp(muster.data()) != nullptr) pfad_ = muster;
-  }
-  ~JiVerzeichnis() {
-    std::error_code ec;
-    if (!pfad_.empty()) std::filesystem::remove_all(pfad_, ec);
-  }
-  JiVerzeichnis(const JiVerzeichnis&) = delete;
-  JiVerzeichnis& operator=(const JiVerzeichnis&) = delete;
-
-  const std::string& Pfad() const { return pfad_; }
-  std::string Datei(const std::string& name) const { return pfad_ + "/" + name; }
-
-private:
-  std::string pfad_;
-};
-
-// Runs the program of the order in its working directory, without arguments, its output discarded,
-// and waits for its end. A program that isn't there (or can't be run) doesn't start.
+// The parameter program really runs, through the program's own child-process launcher.
 inline ui::ProzessStatus StarteEcht(const ui::ProzessAuftrag& auftrag) {
-  ui::ProzessStatus status;
-  if (access(auftrag.programm.c_str(), X_OK) != 0) return status;
-  const pid_t kind = fork();
-  if (kind < 0) return status;
-  if (kind == 0) {
-    const int nichts = open("/dev/null", O_WRONLY);
-    if (nichts >= 0) {
-      dup2(nichts, STDOUT_FILENO);
-      dup2(nichts, STDERR_FILENO);
-    }
-    if (chdir(auftrag.arbeitsVerzeichnis.c_str()) != 0) _exit(126);
-    execl(auftrag.programm.c_str(), auftrag.programm.c_str(), static_cast<char*>(nullptr));
-    _exit(127);
-  }
-  int ende = 0;
-  if (waitpid(kind, &ende, 0) != kind) return status;
-  status.ergebnis = ui::ProzessErgebnis::Beendet;
-  status.exitCode = WIFEXITED(ende) ? WEXITSTATUS(ende) : -1;
-  return status;
+  return ui::StarteKindProzess(auftrag);
 }
 
 // The parameter program as the build puts it into the program directory.
@@ -115,13 +71,6 @@ inline void SetzeTestMethan(ProjectState& s) {
   st.THO = {5.9400643f, 426.65876f, 269.9346f};
 }
 
-// Row of the vapour-pressure table of a tag (0 for none).
-inline int16_t DampfdruckIndexVon(const std::string& tag) {
-  for (int16_t i = 1; i <= 8; ++i)
-    if (DampfdruckTagVon(i) == tag) return i;
-  return 0;
-}
-
 // A state with methane, the vapour-pressure equation `tag`, the Varnik/Ji model `EOSIndex` and the
 // program directory `verzeichnis`, before the set-up.
 inline ProjectState MethanFuerJi(int16_t EOSIndex, const std::string& tag, const std::string& verzeichnis) {
@@ -131,9 +80,10 @@ inline ProjectState MethanFuerJi(int16_t EOSIndex, const std::string& tag, const
   s.Modell.EOSIndex = EOSIndex;
   s.Modell.VirialFlag = false;
   s.Modell.DampfdruckTag = tag;
-  s.Modell.DampfdruckIndex = DampfdruckIndexVon(tag);
+  for (int16_t i = 1; i <= 8; ++i)
+    if (DampfdruckTagVon(i) == tag) s.Modell.DampfdruckIndex = i;
   s.Datenbank.ProgrammVerzeichnis = verzeichnis;
   return s;
 }
 
-} // namespace quor::test::ji
+} // namespace quor::test
