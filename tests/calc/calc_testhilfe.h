@@ -4,13 +4,12 @@
 #pragma once
 
 #include "calc/calc_batch.h"
+#include "dienste/skript_oberflaeche.h"
 #include "engine/eos_parameter.h"
 #include "engine/korrelationen.h"
 #include "engine/saettigung.h"
 #include "engine/zustand.h"
-#include "substance/datenbank.h"
-#include "substance/stoff_laden.h"
-#include "dienste/skript_oberflaeche.h"
+#include "support/stoff_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -21,39 +20,14 @@
 
 namespace quor::test {
 
-inline const char* const CasMethan = "74-82-8";
-inline const char* const CasWasser = "7732-18-5";
-
-// The default database, opened once; every test copies it.
-inline const ProjectState& GeoeffneteDatenbank() {
-  static const ProjectState s = [] {
-    ProjectState z;
-    InitProjectState(z);
-    int16_t failed = 0;
-    bool leer = false;
-    LadeDatenbank(z, 7, std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/QUOR.Q07", failed, leer);
-    EXPECT_EQ(failed, 0) << "the default database is built by the target stoffdaten";
-    return z;
-  }();
-  return s;
-}
-
 // The substance of CAS number `cas` with EOS row `eos`, the vapour-pressure equation of its default
 // tag, the polynomial ideal-gas cp and the enthalpy method `hlv`; GLOBAL for cubic models.
 inline ProjectState StoffMitModell(const std::string& cas, int16_t eos, int16_t hlv = 7) {
-  ProjectState s = GeoeffneteDatenbank();
-  int k = 1;
-  while (k <= s.Datenbank.StoffAnzahl && s.Datenbank.CASListe[k] != cas)
-    ++k;
-  int16_t failed = 0;
-  LadeStoff(s, k, failed);
-  EXPECT_EQ(failed, 0) << cas;
+  ProjectState s = StoffAusStandardDatenbank(cas);
   ModelSelection& m = s.Modell;
   m.EOSIndex = eos;
   m.VirialFlag = eos == 0 || eos > 9;
   m.KonzeptGlobal = m.RechnungGlobal = !m.VirialFlag;
-  for (int i = 1; i <= 8; ++i)
-    if (DampfdruckTagVon(i) == m.DampfdruckTag) m.DampfdruckIndex = static_cast<int16_t>(i);
   m.CpIndex = 1;
   m.HLVIndex = hlv;
   ui::SkriptOberflaeche ui;

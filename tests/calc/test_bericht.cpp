@@ -2,8 +2,8 @@
 // means, the derivative pages, the head by kind and concept, the printer's drawing, the file name.
 #include "calc/bericht.h"
 #include "calc/ergebnis_seite.h"
-#include "test_ergebnis_seite_daten.h"
 #include "dienste/skript_oberflaeche.h"
+#include "test_ergebnis_seite_daten.h"
 
 #include <gtest/gtest.h>
 
@@ -57,7 +57,7 @@ struct Bericht {
 // and derivative pages; the file is Windows-1252 with CR LF. The golden file was checked column by
 // column against the report's layout before it was first written.
 TEST(Bericht, BatchReportFileMatchesGoldenFile) {
-  TempVerzeichnis tmp;
+  TempOrdner tmp;
   ProjectState s = StapelZustand(tmp.Pfad());
   ui::SkriptOberflaeche ui;
   auto rechnung = StapelRechnung();

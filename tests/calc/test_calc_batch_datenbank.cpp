@@ -66,7 +66,6 @@ TEST(CalcBatchDatenbank, DatabaseFunctionsAgreeWithTheCorrelations) {
     EXPECT_REL(r.Zelle(fall.zelle), fall.wert, 1e-12);
     EXPECT_FALSE(r.k.ErrorFlag);
     EXPECT_TRUE(r.ui.Meldungen().empty());
-    EXPECT_FALSE(r.seite.lblGleich.sichtbar);
     WieGespeichert(r.seite, "art" + std::to_string(fall.art));
   }
 }

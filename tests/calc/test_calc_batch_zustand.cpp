@@ -42,7 +42,6 @@ TEST(CalcBatchZustand, Kind3ShowsTheSolverStateInEveryPhase) {
     EXPECT_EQ(r.Zelle(ZelleVL), f.L ? d.vL : 0);
     EXPECT_EQ(r.Satz().rhoVCalc, f.V ? static_cast<float>(d.rhoV) : 0.0f);
     EXPECT_EQ(r.Satz().rhoLCalc, f.L ? static_cast<float>(d.rhoL) : 0.0f);
-    EXPECT_TRUE(r.seite.cmdCEOSDiagnoseVerfuegbar);
     WieGespeichert(r.seite, f.name);
   }
 }

@@ -4,8 +4,8 @@
 #include "calc/calc_eingabe.h"
 #include "calc/parinput.h"
 #include "calc_testhilfe.h"
-#include "eingabe_testhilfe.h"
 #include "dienste/skript_oberflaeche.h"
+#include "eingabe_testhilfe.h"
 
 #include <gtest/gtest.h>
 

@@ -31,31 +31,25 @@ LetzterZustand DreiWurzeln(bool hatL, bool hatV) {
 // phase that exists, and both stable at equilibrium.
 TEST(CEOSDiagnose, ThreeRootsCarryTheirStability) {
   const ProjectState s = Kubisch();
-  const LetzterZustand dampf = DreiWurzeln(false, true);
-  frmCEOSDiagnose d(s, dampf);
-  d.Form_Load();
-  EXPECT_EQ(d.lblEOS, "CEOS Peng / Robinson");
-  EXPECT_EQ(d.lblT, "T = 300.000 K");
-  EXPECT_EQ(d.lblp, "p = 1000.000 kPa");
-  EXPECT_EQ(d.pctEOS, frmCEOSDiagnose::Bild::DreiWurzelnUnterkritisch);
-  ASSERT_EQ(d.Wurzeln.size(), 3u);
-  EXPECT_EQ(d.Wurzeln[0], "v(1) = 0.09 m^3/kmol   (metastabil)");
-  EXPECT_EQ(d.Wurzeln[1], "v(2) = 0.3 m^3/kmol   (instabil)");
-  EXPECT_EQ(d.Wurzeln[2], "v(3) = 2 m^3/kmol   (stabil, V-Phase)");
-
-  const LetzterZustand fluessig = DreiWurzeln(true, false);
-  frmCEOSDiagnose l(s, fluessig);
-  l.Form_Load();
-  EXPECT_EQ(l.Wurzeln[0], "v(1) = 0.09 m^3/kmol   (stabil, L-Phase)");
-  EXPECT_EQ(l.Wurzeln[1], "v(2) = 0.3 m^3/kmol   (instabil)");
-  EXPECT_EQ(l.Wurzeln[2], "v(3) = 2 m^3/kmol   (metastabil)");
-
-  const LetzterZustand gleichgewicht = DreiWurzeln(true, true);
-  frmCEOSDiagnose g(s, gleichgewicht);
-  g.Form_Load();
-  EXPECT_EQ(g.Wurzeln[0], "v(1) = 0.09 m^3/kmol   (stabil, L-Phase)");
-  EXPECT_EQ(g.Wurzeln[1], "v(2) = 0.3 m^3/kmol   (instabil)");
-  EXPECT_EQ(g.Wurzeln[2], "v(3) = 2 m^3/kmol   (stabil, V-Phase)");
+  struct Fall {
+    bool L, V;
+    const char *erste, *dritte;
+  };
+  for (const Fall& f : {Fall{false, true, "(metastabil)", "(stabil, V-Phase)"},
+                        Fall{true, false, "(stabil, L-Phase)", "(metastabil)"},
+                        Fall{true, true, "(stabil, L-Phase)", "(stabil, V-Phase)"}}) {
+    const LetzterZustand z = DreiWurzeln(f.L, f.V);
+    frmCEOSDiagnose d(s, z);
+    d.Form_Load();
+    EXPECT_EQ(d.pctEOS, frmCEOSDiagnose::Bild::DreiWurzelnUnterkritisch);
+    ASSERT_EQ(d.Wurzeln.size(), 3u);
+    EXPECT_EQ(d.Wurzeln[0], std::string("v(1) = 0.09 m^3/kmol   ") + f.erste);
+    EXPECT_EQ(d.Wurzeln[1], "v(2) = 0.3 m^3/kmol   (instabil)");
+    EXPECT_EQ(d.Wurzeln[2], std::string("v(3) = 2 m^3/kmol   ") + f.dritte);
+    EXPECT_EQ(d.lblEOS, "CEOS Peng / Robinson");
+    EXPECT_EQ(d.lblT, "T = 300.000 K");
+    EXPECT_EQ(d.lblp, "p = 1000.000 kPa");
+  }
 }
 
 // One root: below TKrit it is the phase's stable root, at TKrit and above it gets the supercritical

@@ -1,48 +1,20 @@
 // Shared material of the result page tests: a batch of five measured points (the third deleted), a
-// calculation stand-in that answers each point with prepared numbers, a scratch directory, and the
-// comparison with golden files (QUOR_GOLDEN_NEU=1 writes them anew).
+// calculation stand-in that answers each point with prepared numbers, and the comparison with golden
+// files (QUOR_GOLDEN_NEU=1 writes them anew).
 #pragma once
 
 #include "calc/ergebnis_seite.h"
 #include "core/datei_io.h"
+#include "support/temp_ordner.h"
 
 #include <cstdlib>
-#include <filesystem>
 #include <map>
-#include <random>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 namespace quor::test {
-
-// A directory of its own under the system's temporary directory, removed with its content.
-class TempVerzeichnis {
-public:
-  TempVerzeichnis() {
-    std::random_device zufall;
-    pfad_ = std::filesystem::temp_directory_path() / ("quor_seite_" + std::to_string(zufall()));
-    std::filesystem::create_directories(pfad_);
-  }
-  ~TempVerzeichnis() {
-    std::error_code ec;
-    std::filesystem::remove_all(pfad_, ec);
-  }
-  TempVerzeichnis(const TempVerzeichnis&) = delete;
-  TempVerzeichnis& operator=(const TempVerzeichnis&) = delete;
-  std::string Pfad() const { return pfad_.string(); }
-  std::string Datei(const std::string& name) const { return (pfad_ / name).string(); }
-
-private:
-  std::filesystem::path pfad_;
-};
-
-inline std::string LeseDatei(const std::string& pfad) {
-  std::string bytes;
-  LeseDateiBytes(pfad, bytes);
-  return bytes;
-}
 
 // Compares the bytes with tests/data/calc/seite/<name>; QUOR_GOLDEN_NEU=1 writes them there instead.
 inline void VergleicheMitGolden(const std::string& name, const std::string& ist) {

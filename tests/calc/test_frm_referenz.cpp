@@ -1,11 +1,11 @@
 // The reference-state dialog: what it shows on opening by model and energy unit, the proposal of the
 // reference pressure, its options, and what OK stores.
 #include "calc/frm_referenz.h"
+#include "calc_testhilfe.h"
 #include "core/zahlformat.h"
-#include "engine/referenz.h"
-#include "engine/stoffe.h"
-#include "support/relativ.h"
 #include "dienste/skript_oberflaeche.h"
+#include "engine/referenz.h"
+#include "support/relativ.h"
 
 #include <gtest/gtest.h>
 
@@ -25,27 +25,26 @@ struct Dialog {
 // and for models without a liquid, normal pressure. The hint on that proposal shows for cubic
 // models below TKrit only. Nothing of it is a message.
 TEST(frmReferenz, ProposesTheReferencePressureFromTheEquation) {
-  Dialog wasser(ZustandMit(Wasser, 6));
+  Dialog wasser(StoffMitModell(CasWasser, 6));
   wasser.frm.Form_Load();
-  int16_t err = -1;
-  EXPECT_EQ(wasser.s.Referenz.pRef, static_cast<float>(Saettigungsdruck(wasser.s, 298.15f, err)));
-  EXPECT_EQ(err, 0);
+  ProjectState d = wasser.s;
+  EXPECT_EQ(wasser.s.Referenz.pRef, static_cast<float>(DruckLV(d, 298.15f)));
   EXPECT_LT(wasser.s.Referenz.pRef, 10.0f);
   EXPECT_TRUE(wasser.frm.HinweisPoVisible);
   EXPECT_EQ(wasser.frm.T[3], SingleText(wasser.s.Referenz.pRef));
 
-  Dialog methan(ZustandMit(Methan, 6)); // TRef above TKrit
+  Dialog methan(StoffMitModell(CasMethan, 6)); // TRef above TKrit
   methan.frm.Form_Load();
   EXPECT_EQ(methan.s.Referenz.pRef, 101.325f);
   EXPECT_FALSE(methan.frm.HinweisPoVisible);
 
-  Dialog virial(ZustandMit(Wasser, 14));
+  Dialog virial(StoffMitModell(CasWasser, 14));
   virial.frm.Form_Load();
   EXPECT_EQ(virial.s.Referenz.pRef, 101.325f);
   EXPECT_FALSE(virial.frm.HinweisPoVisible);
   EXPECT_TRUE(wasser.ui.protokoll.empty() && methan.ui.protokoll.empty() && virial.ui.protokoll.empty());
 
-  Dialog gesetzt(ZustandMit(Wasser, 6));
+  Dialog gesetzt(StoffMitModell(CasWasser, 6));
   gesetzt.s.Referenz.pRef = 50;
   gesetzt.frm.Form_Load();
   EXPECT_EQ(gesetzt.s.Referenz.pRef, 50.0f);
@@ -57,9 +56,10 @@ TEST(frmReferenz, ShowsReferenceValuesInTheEnergyUnit) {
                                                                    {"h /K", "s /R"},
                                                                    {"h /(R T)", "s /(1/K) "},
                                                                    {"h /(kJ/kg)", "s /(kJ/(kg K))"}}};
-  const std::array<double, 4> faktoren{1, 1 / RGas, 1 / (300 * RGas), 1 / 18.015};
+  const ProjectState wasser = StoffMitModell(CasWasser, 6);
+  const std::array<double, 4> faktoren{1, 1 / RGas, 1 / (300 * RGas), 1 / wasser.Stoff.MolMasse};
   for (int16_t mode = 0; mode < 4; ++mode) {
-    Dialog d(ZustandMit(Wasser, 6));
+    Dialog d(wasser);
     d.s.Einheiten.EnergieMode = mode;
     d.s.Einheiten.TVorgabe = 500;
     d.s.Referenz.TRef = 300;
@@ -79,9 +79,10 @@ TEST(frmReferenz, ShowsReferenceValuesInTheEnergyUnit) {
 // The conventional normalisation needs h and g of formation, the formation reference h and s; the
 // kind in the state is the selected option.
 TEST(frmReferenz, OptionsFollowTheFormationData) {
-  Dialog d(ZustandMit(Wasser, 6));
+  Dialog d(StoffMitModell(CasWasser, 6));
   d.s.Stoff.hBildung = -241820;
   d.s.Stoff.gBildung = -228590;
+  d.s.Stoff.sBildung = 0;
   d.s.Referenz.RefArt = RefKonventionell;
   d.frm.Form_Load();
   EXPECT_EQ(d.frm.opt_HNull_Enabled, (std::array<bool, 3>{true, true, false}));
@@ -97,7 +98,7 @@ TEST(frmReferenz, OptionsFollowTheFormationData) {
 
 // Option 1 sets To and po at once; the four reference fields are editable only under option 0.
 TEST(frmReferenz, OptionClickRefillsAndLocksTheFields) {
-  Dialog d(ZustandMit(Wasser, 6));
+  Dialog d(StoffMitModell(CasWasser, 6));
   d.s.Referenz.TRef = 350;
   d.s.Referenz.pRef = 40;
   d.frm.Form_Load();
@@ -117,7 +118,7 @@ TEST(frmReferenz, OptionClickRefillsAndLocksTheFields) {
 // OK reads the fields with either decimal mark, divides h and s by the energy factor, stores a
 // T(u) of 0 as 1e-6 and takes the kind from the option; ESC stores nothing.
 TEST(frmReferenz, OkStoresTheFields) {
-  Dialog d(ZustandMit(Wasser, 6));
+  Dialog d(StoffMitModell(CasWasser, 6));
   d.s.Einheiten.EnergieMode = 1; // per R
   d.frm.Form_Load();
   d.frm.T = {"1,5", "0.25", "310,5", "200", "0", "99,9"};
@@ -132,7 +133,7 @@ TEST(frmReferenz, OkStoresTheFields) {
   EXPECT_EQ(r.pUmgebung, 99.9);
   EXPECT_EQ(r.RefArt, RefBenutzer);
 
-  Dialog e(ZustandMit(Wasser, 6));
+  Dialog e(StoffMitModell(CasWasser, 6));
   e.s.Stoff.hBildung = -241820;
   e.s.Stoff.gBildung = -228590;
   e.frm.Form_Load();
@@ -142,7 +143,7 @@ TEST(frmReferenz, OkStoresTheFields) {
   EXPECT_EQ(e.s.Referenz.RefArt, RefKonventionell);
   EXPECT_EQ(e.s.Referenz.TUmgebung, 298.15);
 
-  Dialog f(ZustandMit(Wasser, 6));
+  Dialog f(StoffMitModell(CasWasser, 6));
   f.frm.Form_Load();
   f.frm.T[5] = "1";
   f.frm.ESC_Click();

@@ -3,8 +3,8 @@
 #include "calc/ergebnis_seite.h"
 #include "calc/protokoll.h"
 #include "core/text_kodierung.h"
-#include "test_ergebnis_seite_daten.h"
 #include "dienste/skript_oberflaeche.h"
+#include "test_ergebnis_seite_daten.h"
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ RechnungsAttrappe ProtokollRechnung() {
 }
 
 struct ProtokollSeite {
-  TempVerzeichnis tmp;
+  TempOrdner tmp;
   ProjectState s = StapelZustand(tmp.Pfad());
   ui::SkriptOberflaeche ui;
   RechnungsAttrappe rechnung = ProtokollRechnung();
@@ -156,7 +156,7 @@ TEST(Protokoll, ClosingThePageWritesAnOpenRecord) {
 // yy dd mm from a date "dd.mm.yyyy", then the running number, raised past existing files with a
 // leading zero below 10.
 TEST(Protokoll, FileNameFromTheDateSkipsExistingFiles) {
-  TempVerzeichnis tmp;
+  TempOrdner tmp;
   EXPECT_EQ(NeuerProtokollName(tmp.Pfad(), "07.11.2025"), "25071101.CSV");
   for (int i = 1; i <= 9; ++i)
     ASSERT_TRUE(SchreibeDateiBytes(tmp.Datei("2507110" + std::to_string(i) + ".CSV"), "x"));
