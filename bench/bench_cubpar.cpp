@@ -1,14 +1,14 @@
 // One run of the parameter program as the set-up waits for it: the process started in a program
 // directory with the substance's "jipar.tmp", its fit, and its parameter file written.
 #include "core/datei_io.h"
+#include "dienste/kind_prozess.h"
 #include "engine/varnik_ji.h"
 #include "substance/datenbank.h"
 #include "substance/stoff_laden.h"
 
 #include <benchmark/benchmark.h>
 
-#include <sys/wait.h>
-#include <unistd.h>
+#include <stdlib.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -38,14 +38,11 @@ std::string Vorbereitet(const std::string& cas, int16_t modell) {
 }
 
 bool LaufeCubpar(const std::string& programm, const std::string& dir) {
-  const pid_t kind = fork();
-  if (kind == 0) {
-    if (chdir(dir.c_str()) != 0 || freopen("/dev/null", "w", stdout) == nullptr) _exit(126);
-    execl(programm.c_str(), programm.c_str(), static_cast<char*>(nullptr));
-    _exit(127);
-  }
-  int ende = 0;
-  return kind > 0 && waitpid(kind, &ende, 0) == kind && WIFEXITED(ende) && WEXITSTATUS(ende) == 0;
+  quor::ui::ProzessAuftrag auftrag;
+  auftrag.programm = programm;
+  auftrag.arbeitsVerzeichnis = dir;
+  const quor::ui::ProzessStatus status = quor::ui::StarteKindProzess(auftrag);
+  return status.ergebnis == quor::ui::ProzessErgebnis::Beendet && status.exitCode == 0;
 }
 
 // Arguments: model (7, 8) and substance (0 methane, 1 water).

@@ -2,9 +2,9 @@
 
 #include "calc/frm_referenz.h"
 #include "cli/fehler.h"
-#include "cli/prozess.h"
 #include "core/festtext.h"
 #include "core/programm_verzeichnis.h"
+#include "dienste/kind_prozess.h"
 #include "engine/eos_parameter.h"
 #include "substance/b_par_input.h"
 #include "substance/datenbank.h"
@@ -72,7 +72,7 @@ std::string ZeilenText(const std::string& zeile) {
 }
 
 Sitzung::Sitzung(const Aufruf& a) : aufruf(a) {
-  ui.prozessAusfuehren = StarteKindProzess;
+  ui.prozessAusfuehren = ui::StarteKindProzess;
   s.Datenbank.ProgrammVerzeichnis = ProgrammVerzeichnisEinrichten(ExeVerzeichnis(), BenutzerVerzeichnis());
   ui::Oberflaeche& dienst = ui;
   InitProjectState(s, [&dienst](ProjectState& z) {

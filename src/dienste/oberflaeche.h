@@ -49,13 +49,16 @@ struct ProzessAuftrag {
   std::string arbeitsVerzeichnis;
   bool versteckt = true;
   int wartenMs = 100000; // below 0: started beside the program, not awaited
+  // Files that take the child's standard output and error output; empty: discarded.
+  std::string ausgabeDatei;
+  std::string fehlerDatei;
 };
 
 enum class ProzessErgebnis { Beendet, ZeitUeberschritten, NichtGestartet };
 
 struct ProzessStatus {
   ProzessErgebnis ergebnis = ProzessErgebnis::NichtGestartet;
-  int exitCode = -1;
+  int exitCode = -1; // 128 + the signal's number for a child ended by a signal
 };
 
 class Oberflaeche {

@@ -3,18 +3,18 @@
 // the Peng/Robinson equation for checks made independently of the program.
 #pragma once
 
+#include "dienste/kind_prozess.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <random>
 #include <sstream>
 #include <string>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
@@ -55,35 +55,24 @@ struct Ergebnis {
   std::string fehler; // stderr
 };
 
-// Runs `programm` with `argumente` in `verzeichnis` (a scratch folder when empty).
+// Runs `programm` with `argumente` in `verzeichnis` (a scratch folder when empty), through the
+// program's own child-process launcher.
 inline Ergebnis StarteProgramm(const std::string& programm, const std::vector<std::string>& argumente,
                                const std::string& verzeichnis = "") {
   Arbeitsordner puffer;
-  const std::string ausDatei = puffer / "stdout", fehlerDatei = puffer / "stderr";
-  std::vector<std::string> liste{programm};
-  liste.insert(liste.end(), argumente.begin(), argumente.end());
-  std::vector<char*> argv;
-  for (std::string& a : liste)
-    argv.push_back(a.data());
-  argv.push_back(nullptr);
-  const std::string ordner = verzeichnis.empty() ? puffer.pfad.string() : verzeichnis;
-
+  ui::ProzessAuftrag auftrag;
+  auftrag.programm = programm;
+  auftrag.argumente = argumente;
+  auftrag.arbeitsVerzeichnis = verzeichnis.empty() ? puffer.pfad.string() : verzeichnis;
+  auftrag.ausgabeDatei = puffer / "stdout";
+  auftrag.fehlerDatei = puffer / "stderr";
+  auftrag.wartenMs = 120000;
+  const ui::ProzessStatus status = ui::StarteKindProzess(auftrag);
   Ergebnis e;
-  const pid_t pid = fork();
-  if (pid == 0) {
-    const int aus = open(ausDatei.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    const int feh = open(fehlerDatei.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    if (aus < 0 || feh < 0 || chdir(ordner.c_str()) != 0) _exit(126);
-    dup2(aus, STDOUT_FILENO);
-    dup2(feh, STDERR_FILENO);
-    execv(argv[0], argv.data());
-    _exit(127);
-  }
-  int status = 0;
-  if (pid < 0 || waitpid(pid, &status, 0) != pid) return e;
-  e.code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-  e.aus = LeseDatei(ausDatei);
-  e.fehler = LeseDatei(fehlerDatei);
+  if (status.ergebnis != ui::ProzessErgebnis::Beendet) return e;
+  e.code = status.exitCode;
+  e.aus = LeseDatei(auftrag.ausgabeDatei);
+  e.fehler = LeseDatei(auftrag.fehlerDatei);
   // In the sanitizer build a fault of the program shows as a report on stderr.
   for (const char* bericht : {"AddressSanitizer", "LeakSanitizer", "runtime error:"})
     EXPECT_EQ(e.fehler.find(bericht), std::string::npos) << e.fehler;

@@ -1,5 +1,7 @@
 #include "gui/basis/qt_oberflaeche.h"
 
+#include "dienste/kind_prozess.h"
+
 #include "dienste/datei_filter.h"
 #include "gui/basis/hilfe_fenster.h"
 #include "gui/basis/qt_drucker.h"
@@ -11,7 +13,6 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QProcess>
 
 namespace quor::ui {
 
@@ -151,26 +152,11 @@ Drucker& QtOberflaeche::Druck() {
 }
 
 ProzessStatus QtOberflaeche::StarteProzess(const ProzessAuftrag& auftrag) {
-  QProcess prozess;
-  QStringList argumente;
-  for (const auto& a : auftrag.argumente)
-    argumente << Q(a);
-  if (auftrag.wartenMs < 0) {
-    const bool gestartet =
-        QProcess::startDetached(Q(auftrag.programm), argumente, Q(auftrag.arbeitsVerzeichnis));
-    return {gestartet ? ProzessErgebnis::Beendet : ProzessErgebnis::NichtGestartet, 0};
-  }
-  if (!auftrag.arbeitsVerzeichnis.empty()) prozess.setWorkingDirectory(Q(auftrag.arbeitsVerzeichnis));
-  // A hidden child has no console of its own; its output is dropped.
-  if (auftrag.versteckt) prozess.setStandardOutputFile(QProcess::nullDevice());
-  prozess.start(Q(auftrag.programm), argumente);
-  if (!prozess.waitForStarted(10000)) return {ProzessErgebnis::NichtGestartet, -1};
-  if (!prozess.waitForFinished(auftrag.wartenMs)) {
-    prozess.kill();
-    prozess.waitForFinished(2000);
-    return {ProzessErgebnis::ZeitUeberschritten, -1};
-  }
-  return {ProzessErgebnis::Beendet, prozess.exitCode()};
+  // The window stays as it is while the program waits for its child.
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  const ProzessStatus status = StarteKindProzess(auftrag);
+  QApplication::restoreOverrideCursor();
+  return status;
 }
 
 void QtOberflaeche::Hilfe(int thema) {

@@ -1,0 +1,99 @@
+// The Qt side of the services: the default button of a question, the extension a saved name gets,
+// and child processes with their exit code, time-out and kill.
+#include "gui/basis/qt_oberflaeche.h"
+#include "gui_hilfe.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <fstream>
+#include <signal.h>
+
+namespace quor::ui {
+namespace {
+
+using test::App;
+
+// Runs `schritt` on the modal dialog as soon as it is open.
+template <typename Dialog, typename Schritt> void BeimOeffnen(Schritt schritt) {
+  QTimer::singleShot(0, [schritt] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    schritt(dialog);
+  });
+}
+
+TEST(QtOberflaeche, EnterPressesTheQuestionsDefaultButton) {
+  App();
+  QtOberflaeche ui(nullptr, "");
+  for (const Antwort vorgabe : {Antwort::Nein, Antwort::Ja}) {
+    QString texte;
+    BeimOeffnen<QMessageBox>([&texte](QMessageBox* box) {
+      for (QAbstractButton* b : box->buttons())
+        texte += b->text() + " ";
+      test::Taste(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(ui.Frage("Möchten Sie das?", "Warnung", Knoepfe::JaNein, vorgabe), vorgabe);
+    EXPECT_TRUE(texte.contains("&Ja") && texte.contains("&Nein")) << texte.toStdString();
+  }
+}
+
+TEST(QtOberflaeche, ASavedNameTypedWithoutExtensionGetsTheDefaultOne) {
+  App();
+  QTemporaryDir ordner;
+  QtOberflaeche ui(nullptr, "");
+  DateiDialog d;
+  d.titel = "Projekt speichern unter";
+  d.filter = "QUOR-Projektdatei (*.QC6)|*.QC6";
+  d.standardEndung = ".QC6";
+  d.startVerzeichnis = ordner.path().toStdString();
+  for (const char* name : {"Versuch", "Versuch.QC6"}) {
+    BeimOeffnen<QFileDialog>([name](QFileDialog* f) {
+      f->selectFile(name);
+      QMetaObject::invokeMethod(f, "accept");
+    });
+    const auto pfad = ui.DateiSpeichern(d);
+    ASSERT_TRUE(pfad.has_value());
+    EXPECT_EQ(*pfad, ordner.filePath("Versuch.QC6").toStdString());
+  }
+}
+
+TEST(QtOberflaeche, ChildProcessesEndWithTheirCodeOrAreKilledWhenOutOfTime) {
+  App();
+  QTemporaryDir ordner;
+  QtOberflaeche ui(nullptr, "");
+  ProzessAuftrag a;
+  a.programm = "/bin/sh";
+  a.arbeitsVerzeichnis = ordner.path().toStdString();
+  a.argumente = {"-c", "echo hallo; exit 3"};
+  a.ausgabeDatei = ordner.filePath("aus.txt").toStdString();
+  ProzessStatus st = ui.StarteProzess(a);
+  EXPECT_EQ(st.ergebnis, ProzessErgebnis::Beendet);
+  EXPECT_EQ(st.exitCode, 3);
+  std::ifstream aus(a.ausgabeDatei);
+  std::string zeile;
+  EXPECT_TRUE(std::getline(aus, zeile) && zeile == "hallo");
+
+  // The child notes its number in its working directory, then would wait far longer than allowed.
+  a.argumente = {"-c", "echo $$ > pid; exec sleep 60"};
+  a.ausgabeDatei.clear();
+  a.wartenMs = 300;
+  st = ui.StarteProzess(a);
+  EXPECT_EQ(st.ergebnis, ProzessErgebnis::ZeitUeberschritten);
+  std::ifstream pidDatei(ordner.filePath("pid").toStdString());
+  int pid = 0;
+  ASSERT_TRUE(pidDatei >> pid);
+  EXPECT_EQ(kill(pid, 0), -1); // killed and reaped: no such process any more
+  EXPECT_EQ(errno, ESRCH);
+
+  a.programm = ordner.filePath("fehlt").toStdString();
+  EXPECT_EQ(ui.StarteProzess(a).ergebnis, ProzessErgebnis::NichtGestartet);
+}
+
+} // namespace
+} // namespace quor::ui
