@@ -1,11 +1,11 @@
 #include "core/datei_io.h"
 #include "core/listen_datei.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstring>
-#include <filesystem>
 #include <random>
 #include <string>
 #include <vector>
@@ -237,14 +237,8 @@ TEST(ListenDatei, Windows1252AndUtf8FilesBothRead) {
 
 class DateiBytes : public ::testing::Test {
 protected:
-  void SetUp() override {
-    ordner_ =
-        std::filesystem::temp_directory_path() / ("quor_test_" + std::to_string(std::random_device{}()));
-    std::filesystem::create_directories(ordner_);
-  }
-  void TearDown() override { std::filesystem::remove_all(ordner_); }
-  std::string Pfad(const std::string& name) const { return (ordner_ / name).string(); }
-  std::filesystem::path ordner_;
+  std::string Pfad(const std::string& name) const { return ordner_.Datei(name); }
+  test::TempOrdner ordner_;
 };
 
 TEST_F(DateiBytes, WholeFileRoundTrip) {
@@ -267,9 +261,9 @@ TEST_F(DateiBytes, FailuresReturnFalse) {
   EXPECT_EQ(b, "");
   EXPECT_FALSE(SchreibeDateiBytes(Pfad("fehlt/x.BAQ"), "1"));
   EXPECT_FALSE(DateiExistiert(Pfad("fehlt/x.BAQ")));
-  EXPECT_FALSE(DateiExistiert(ordner_.string())); // a directory is no file
-  EXPECT_FALSE(LeseDateiBytes(ordner_.string(), b));
-  EXPECT_FALSE(SchreibeDateiBytes(ordner_.string(), "1"));
+  EXPECT_FALSE(DateiExistiert(ordner_.Pfad())); // a directory is no file
+  EXPECT_FALSE(LeseDateiBytes(ordner_.Pfad(), b));
+  EXPECT_FALSE(SchreibeDateiBytes(ordner_.Pfad(), "1"));
   EXPECT_FALSE(LeseDateiBytes("", b));
 }
 

@@ -5,10 +5,12 @@
 #include "core/projekt_datei.h"
 #include "core/text_kodierung.h"
 #include "dienste/skript_oberflaeche.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <tuple>
 
 namespace quor {
 namespace {
@@ -80,37 +82,26 @@ TEST(ProjektDatei, EveryItemComesBackAsItWasWritten) {
   EXPECT_EQ(kopf.ExpAnzahl, 17);
   EXPECT_EQ(kopf.CAS, "74-82-8     "); // the CAS field keeps its 12 characters
 
-  const EinheitenGruppe& e = neu.Einheiten;
-  EXPECT_EQ(e.TVorgabe, 150.5f);
-  EXPECT_EQ(e.pVorgabe, 3000.25f);
-  EXPECT_EQ(e.vVorgabe, 0.0987f);
-  EXPECT_EQ(e.EnergieFaktor, 1.0 / 8.31451); // doubles in their shortest exact text: no loss
-  EXPECT_EQ(e.VolumenMode, 2);
-  EXPECT_EQ(e.EnergieMode, 1);
-  const OptionenGruppe& o = neu.Optionen;
-  EXPECT_FALSE(o.KurveTpBeschraenkt);
-  EXPECT_EQ(o.PunktDichte, 1234);
-  EXPECT_EQ(o.CsvTrenner, '\t');
-  EXPECT_TRUE(o.ParSpeichern);
-  const ModelSelection& m = neu.Modell;
-  EXPECT_EQ(m.DampfdruckIndex, 7);
-  EXPECT_EQ(m.DampfdruckTag, "KFR");
-  EXPECT_EQ(m.EOSIndex, 14);
+  // Floats and doubles alike come back bit for bit (doubles in their shortest exact text).
+  const EinheitenGruppe &e = neu.Einheiten, &ea = alt.Einheiten;
+  EXPECT_EQ(
+      std::tie(e.TVorgabe, e.pVorgabe, e.vVorgabe, e.EnergieFaktor, e.VolumenMode, e.EnergieMode),
+      std::tie(ea.TVorgabe, ea.pVorgabe, ea.vVorgabe, ea.EnergieFaktor, ea.VolumenMode, ea.EnergieMode));
+  const OptionenGruppe &o = neu.Optionen, &oa = alt.Optionen;
+  EXPECT_EQ(std::tie(o.KurveTpBeschraenkt, o.PunktDichte, o.CsvTrenner, o.ParSpeichern),
+            std::tie(oa.KurveTpBeschraenkt, oa.PunktDichte, oa.CsvTrenner, oa.ParSpeichern));
+  const ModelSelection &m = neu.Modell, &ma = alt.Modell;
+  EXPECT_EQ(
+      std::tie(m.DampfdruckIndex, m.EOSIndex, m.CpIndex, m.HLVIndex, m.WatsonExp, m.KonzeptGlobal),
+      std::tie(ma.DampfdruckIndex, ma.EOSIndex, ma.CpIndex, ma.HLVIndex, ma.WatsonExp, ma.KonzeptGlobal));
+  EXPECT_EQ(m.DampfdruckTag, "KFR"); // derived from the indices on reading
   EXPECT_TRUE(m.VirialFlag);
-  EXPECT_EQ(m.CpIndex, 2);
-  EXPECT_EQ(m.HLVIndex, 4);
-  EXPECT_EQ(m.WatsonExp, 0.38f);
-  EXPECT_FALSE(m.KonzeptGlobal);
-  const ReferenzGruppe& r = neu.Referenz;
-  EXPECT_EQ(r.RefArt, 10);
-  EXPECT_EQ(r.hRef, -1234.5678901234);
-  EXPECT_EQ(r.sRef, 98.76543210987);
-  EXPECT_EQ(r.TRef, 273.15f);
-  EXPECT_EQ(r.pRef, 101.325f);
-  EXPECT_EQ(neu.Zusatz.ProzessStart1, 350.125);
-  EXPECT_EQ(neu.Zusatz.ProzessStart2, 2500.5);
-  EXPECT_EQ(neu.Zusatz.ProzessOption, 3);
-  EXPECT_EQ(neu.Mess.FitSpalte, 4);
+  const ReferenzGruppe &r = neu.Referenz, &ra = alt.Referenz;
+  EXPECT_EQ(std::tie(r.RefArt, r.hRef, r.sRef, r.TRef, r.pRef),
+            std::tie(ra.RefArt, ra.hRef, ra.sRef, ra.TRef, ra.pRef));
+  const OptionenZusatz &z = neu.Zusatz, &za = alt.Zusatz;
+  EXPECT_EQ(std::tie(z.ProzessStart1, z.ProzessStart2, z.ProzessOption, neu.Mess.FitSpalte),
+            std::tie(za.ProzessStart1, za.ProzessStart2, za.ProzessOption, alt.Mess.FitSpalte));
 }
 
 TEST(ProjektDatei, BooleansAreMinusOneOrZeroAndTheTextIsCrLf) {
@@ -238,32 +229,21 @@ TEST(ProjektDatei, DatabaseKindAndLastSessionAreReadFromTheNames) {
 class ProjektSchreibenTest : public ::testing::Test {
 protected:
   void SetUp() override {
-    ordner = fs::temp_directory_path() /
-             ("quor_projekt_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::remove_all(ordner);
-    fs::create_directories(ordner / "programm");
-    fs::create_directories(ordner / "projekte");
-    s = Beispiel();
-    s.Datenbank.ProgrammVerzeichnis = (ordner / "programm").string();
-    s.Projekt.ProjektVerzeichnis = (ordner / "projekte").string();
-  }
-  void TearDown() override { fs::remove_all(ordner); }
-
-  std::string Inhalt(const fs::path& p) {
-    std::string bytes;
-    LeseDateiBytes(p.string(), bytes);
-    return bytes;
+    fs::create_directories(ordner.Datei("programm"));
+    fs::create_directories(ordner.Datei("projekte"));
+    s.Datenbank.ProgrammVerzeichnis = ordner.Datei("programm");
+    s.Projekt.ProjektVerzeichnis = ordner.Datei("projekte");
   }
 
-  fs::path ordner;
-  ProjectState s;
+  test::TempOrdner ordner;
+  ProjectState s = Beispiel();
   ui::SkriptOberflaeche ui;
 };
 
 TEST_F(ProjektSchreibenTest, LastSessionGoesToTheProgramDirectoryWithoutAQuestion) {
   ASSERT_TRUE(ProjektSchreiben(s, "/anderswo/QUORLASTSESSION.QC6", ui));
   EXPECT_TRUE(ui.protokoll.empty());
-  const std::string bytes = Inhalt(ordner / "programm" / "QuorLastSession.QC6");
+  const std::string bytes = test::LeseDatei(ordner.Datei("programm/QuorLastSession.QC6"));
   EXPECT_NE(bytes.find("\r\nPr\xFC"
                        "fstand 3, Methan\r\n"),
             std::string::npos); // Windows-1252
@@ -279,17 +259,18 @@ TEST_F(ProjektSchreibenTest, AProjectAsksForItsCommentAndABareNameGoesToTheProje
   EXPECT_EQ(ui.protokoll[0].text, "<Abbrechen> = kein Kommentar");
   EXPECT_EQ(ui.protokoll[0].titel, " Datei-Kommentar (optional) ");
   EXPECT_EQ(s.Projekt.DateiKommentar, "neuer Kommentar");
-  EXPECT_NE(Inhalt(ordner / "projekte" / "versuch.QC6").find("\r\nneuer Kommentar\r\n"), std::string::npos);
+  EXPECT_NE(test::LeseDatei(ordner.Datei("projekte/versuch.QC6")).find("\r\nneuer Kommentar\r\n"),
+            std::string::npos);
 
   ui.eingaben.push_back(std::nullopt); // <Abbrechen>: no comment
   ASSERT_TRUE(ProjektSchreiben(s, "versuch.QC6", ui));
   EXPECT_EQ(s.Projekt.DateiKommentar, "");
-  EXPECT_NE(Inhalt(ordner / "projekte" / "versuch.QC6").find("\r\n<>\r\n"), std::string::npos);
+  EXPECT_NE(test::LeseDatei(ordner.Datei("projekte/versuch.QC6")).find("\r\n<>\r\n"), std::string::npos);
 }
 
 TEST_F(ProjektSchreibenTest, AFileThatCannotBeWrittenIsReported) {
   ui.eingaben.push_back(std::string());
-  EXPECT_FALSE(ProjektSchreiben(s, (ordner / "fehlt" / "x.QC6").string(), ui));
+  EXPECT_FALSE(ProjektSchreiben(s, ordner.Datei("fehlt/x.QC6"), ui));
   ASSERT_EQ(ui.Meldungen().size(), 1u);
   EXPECT_EQ(ui.Letzte().text.rfind("Meldung von Sub ProjektSchreiben:\r\nPfad/Datei-Zugriffsfehler", 0), 0u);
 }
@@ -302,14 +283,13 @@ TEST_F(ProjektSchreibenTest, SaveAsOffersTheProjectAndKeepsTheChosenFile) {
   EXPECT_EQ(d.titel, "aktuelles Projekt speichern unter ...");
   EXPECT_EQ(d.filter, "QUOR-Projektdatei (*.QC6)|*.QC6");
   EXPECT_EQ(d.standardEndung, ".QC6");
-  EXPECT_EQ(d.startVerzeichnis, (ordner / "projekte").string());
+  EXPECT_EQ(d.startVerzeichnis, ordner.Datei("projekte"));
   EXPECT_EQ(d.dateiName, "alt.QC6");
 
-  const fs::path ziel = ordner / "programm" / "neu.QC6";
-  ui.dateien.push_back(ziel.string());
+  ui.dateien.push_back(ordner.Datei("programm/neu.QC6"));
   ASSERT_TRUE(ProjektSpeichernUnter(s, ui));
-  EXPECT_TRUE(fs::exists(ziel));
-  EXPECT_EQ(s.Projekt.ProjektVerzeichnis, (ordner / "programm").string());
+  EXPECT_TRUE(fs::exists(ordner.Datei("programm/neu.QC6")));
+  EXPECT_EQ(s.Projekt.ProjektVerzeichnis, ordner.Datei("programm"));
   EXPECT_EQ(s.Projekt.ProjektDatei, "neu.QC6");
 }
 

@@ -1,7 +1,7 @@
 // The open dialog with preview: which files and folders it lists, the heading of its text area,
 // the preview of a chosen file, a refused file, and what it gives back.
-#include "core/datei_io.h"
 #include "core/projekt_datei_dialog.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
 
@@ -22,14 +22,10 @@ TEST(DateiMuster, StarsAndQuestionMarksInAnyCase) {
 class DateiDialogTest : public ::testing::Test {
 protected:
   void SetUp() override {
-    ordner = fs::temp_directory_path() /
-             ("quor_dialog_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::remove_all(ordner);
     fs::create_directories(ordner / "Unterordner");
     for (const char* name : {"b.QC6", "A.qc6", "notiz.txt", "daten.BAQ", "Unterordner/c.QC6"})
-      SchreibeDateiBytes((ordner / name).string(), "x");
+      tmp.Schreibe(name, "x");
   }
-  void TearDown() override { fs::remove_all(ordner); }
 
   // A preview that names the file and refuses "b.QC6".
   frmQCmnDlg Dialog() {
@@ -40,7 +36,8 @@ protected:
     });
   }
 
-  fs::path ordner;
+  test::TempOrdner tmp;
+  fs::path ordner = tmp.Pfad();
   std::vector<std::string> gesehen;
 };
 
