@@ -5,7 +5,6 @@
 #include "core/rahmen.h"
 #include "core/text_kodierung.h"
 #include "dienste/oberflaeche.h"
-#include "engine/eos_zeilen.h"
 
 #include <ctime>
 #include <type_traits>
@@ -90,8 +89,8 @@ bool LeseModelle(ListenLeser& leser, LeseFehler& fehler, ProjectState& s) {
   if (!Tabellenwert(leser, fehler, m.DampfdruckIndex, 8)) return false;
   m.DampfdruckTag = m.DampfdruckIndex < 1 ? KeinKommentar : DampfdruckTagVon(m.DampfdruckIndex);
   // -1 (none) becomes 0 as well
-  if (!Tabellenwert(leser, fehler, m.EOSIndex, eos::VirialPitzerCurl)) return false;
-  m.VirialFlag = eos::IstVirial(m.EOSIndex);
+  // The last row of the EOS table; the loader of the substance derives the model's family from it.
+  if (!Tabellenwert(leser, fehler, m.EOSIndex, static_cast<int16_t>(s.Tab.EOSNamen.size() - 1))) return false;
   return Tabellenwert(leser, fehler, m.CpIndex, 2) && Tabellenwert(leser, fehler, m.HLVIndex, 7) &&
          Wert(leser, fehler, m.WatsonExp) && Wert(leser, fehler, m.KonzeptGlobal);
 }

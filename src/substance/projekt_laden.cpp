@@ -6,6 +6,7 @@
 #include "core/listen_datei.h"
 #include "core/projekt_datei.h"
 #include "dienste/oberflaeche.h"
+#include "engine/eos_zeilen.h"
 #include "engine/korrelationen.h"
 #include "substance/datenbank.h"
 #include "substance/korrelierte_parameter.h"
@@ -71,6 +72,7 @@ bool StoffDesProjekts(ProjectState& s, const std::string& cas, ui::Oberflaeche& 
 // chosen substance.
 void NachDenEinstellungen(ProjectState& s) {
   const StoffGruppe& st = s.Stoff;
+  s.Modell.VirialFlag = eos::IstVirial(s.Modell.EOSIndex); // the vapour-only family
   if (s.Modell.DampfdruckIndex > AugustKorreliert)
     KorrelierteParameter(s, s.Modell.DampfdruckIndex, st.TKrit, st.pKrit, st.TSiede);
   EinheitenGruppe& e = s.Einheiten;

@@ -71,6 +71,7 @@ protected:
 
 TEST_F(ProjektLadenTest, AProjectBringsBackItsDatabaseSubstanceAndModels) {
   const std::string pfad = Datei("etoh.QC6", ProjektText(Quelle(), "05.06.2024 07:08:09"));
+  s.Modell.VirialFlag = true; // the family of a former model must not stay
   ASSERT_EQ(Laden(pfad), 0);
   EXPECT_TRUE(ui.protokoll.empty());
   EXPECT_EQ(batch, "etoh.BAQ");
@@ -89,6 +90,7 @@ TEST_F(ProjektLadenTest, AProjectBringsBackItsDatabaseSubstanceAndModels) {
   EXPECT_FALSE(s.Projekt.LetzteSitzung);
 
   EXPECT_EQ(s.Modell.EOSIndex, 6); // the settings themselves are the project file's round trip
+  EXPECT_FALSE(s.Modell.VirialFlag);
   EXPECT_EQ(s.Modell.DampfdruckTag, "THO");
   // Saved without manual normalisation: the presets come from the critical point.
   EXPECT_EQ(s.Einheiten.TVorgabe, static_cast<float>(s.Stoff.TKrit));
