@@ -1,6 +1,6 @@
 // Kinds of single functions at T: the virial comparison, the polytropic start point, the database
 // functions with their validity ranges; and kind 23, which has no branch.
-#include "calc/calc_testhilfe.h"
+#include "calc_testhilfe.h"
 #include "core/zahlformat.h"
 #include "engine/kalorik.h"
 #include "engine/virial.h"

@@ -1,7 +1,7 @@
 // The functions of kind 8 and the further blocks of the common ending: fugacity and residual functions,
 // mechanical coefficients, derivatives with the inflection points, the functions block, the EOS
 // parameters; cells, record and scaling against direct engine calls.
-#include "calc/calc_testhilfe.h"
+#include "calc_testhilfe.h"
 #include "core/festtext.h"
 #include "core/zahlformat.h"
 #include "engine/ableitungen.h"

@@ -1,6 +1,6 @@
 // Equilibrium kinds of the dispatcher: T => p(LV) and p => T(LV), GLOBAL from the cubic EOS and PARTIAL
 // from the vapour-pressure equation with Benson's liquid; the enthalpy of vaporization at T or p.
-#include "calc/calc_testhilfe.h"
+#include "calc_testhilfe.h"
 #include "core/zahlformat.h"
 #include "engine/virial.h"
 #include "support/relativ.h"

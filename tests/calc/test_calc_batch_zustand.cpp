@@ -1,7 +1,7 @@
 // State questions of the dispatcher: T, p => rho in every phase and at the critical point, T, rho => p
 // with the two-phase split, p, rho => T, the vessel kinds and the readers of the given values. Numbers
 // are checked against direct engine calls, texts against the stored pages.
-#include "calc/calc_testhilfe.h"
+#include "calc_testhilfe.h"
 #include "core/festtext.h"
 #include "core/zahlformat.h"
 #include "engine/korrelationen.h"
