@@ -1,8 +1,8 @@
 // Residual and caloric functions against independent routes: ln phi and the residual h, s as
 // integrals of the EOS along the isotherm, temperature derivatives against differences, cp, cv and
 // the speed of sound against their definitions, the ideal gas, the exergies and saturation.
-#include "kalorik_hilfen.h"
 #include "engine/kubisch.h"
+#include "kalorik_hilfen.h"
 #include "support/relativ.h"
 
 #include <cmath>

@@ -1,9 +1,9 @@
 // Enthalpy of vaporization from states of the EOS: the difference of the residual enthalpies of the
 // saturated roots against Clausius-Clapeyron with the EOS's own saturation curve, and the route
 // through the slope of the vapour-pressure equation with the compressibility factors.
-#include "kalorik_hilfen.h"
 #include "engine/korrelationen.h"
 #include "engine/kubisch.h"
+#include "kalorik_hilfen.h"
 #include "support/relativ.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // The ideal-gas part: h and s against numerical integrals of cp and cp/T for every cp form, the
 // reference kinds with their constants, and the limits of the sinh/cosh form.
-#include "kalorik_hilfen.h"
 #include "engine/referenz.h"
+#include "kalorik_hilfen.h"
 #include "support/relativ.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // Second virial coefficients: the low-pressure limit of the cubic models, the temperature laws,
 // and dB/dT, d2B/dT2 against central differences.
-#include "stoffe.h"
 #include "engine/virial.h"
+#include "stoffe.h"
 #include "support/relativ.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // v(T,p) with its regions and phases, p(T,v) and T(p,rho), with their round trips.
 #include "engine/eos_auswertung.h"
-#include "stoffe.h"
 #include "engine/virial.h"
+#include "stoffe.h"
 #include "support/relativ.h"
 
 #include <gtest/gtest.h>
