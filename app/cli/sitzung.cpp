@@ -6,6 +6,7 @@
 #include "core/programm_verzeichnis.h"
 #include "dienste/kind_prozess.h"
 #include "engine/eos_parameter.h"
+#include "engine/eos_zeilen.h"
 #include "substance/b_par_input.h"
 #include "substance/datenbank.h"
 #include "substance/modell_wahl.h"
@@ -141,7 +142,7 @@ void Sitzung::ModelleWaehlen() {
     geprueft(aktion, "--eos");
   }
   for (const auto& b : a.Virial)
-    if (b && m.EOSIndex != 10)
+    if (b && m.EOSIndex != eos::VirialHand)
       throw Eingabefehler("--virial-b0/b1/b2 need the hand-input virial model (--eos 10)");
 
   if (a.Dampfdruck) {

@@ -3,6 +3,7 @@
 #include "calc/calc_eingabe.h"
 #include "calc/parinput.h"
 #include "calc/rechen_befehle.h"
+#include "core/rechen_art.h"
 #include "cli/ausgabe.h"
 #include "cli/fehler.h"
 
@@ -59,12 +60,12 @@ void Steuerung::Starten(int16_t art, bool stapel, std::ostream& fehler) {
   if (!MenueVonArt(art, name, index))
     throw Eingabefehler("kind " + std::to_string(art) + " has no menu entry");
   s.Rechnung.StapelModus = stapel;
-  if (a.Gleichgewicht && (art != 3 || stapel)) throw Eingabefehler("--equilibrium belongs to calc 3");
+  if (a.Gleichgewicht && (art != art::Tp || stapel)) throw Eingabefehler("--equilibrium belongs to calc 3");
   // The question whether T and p lie on the saturation line is answered by --equilibrium.
-  if (art == 3 && !stapel) z_.ui.antworten.push_back(a.Gleichgewicht ? ui::Antwort::Ja : ui::Antwort::Nein);
+  if (art == art::Tp && !stapel) z_.ui.antworten.push_back(a.Gleichgewicht ? ui::Antwort::Ja : ui::Antwort::Nein);
   ablauf_.Menue(name, index);
   z_.ui.antworten.clear();
-  if (s.RechenArt == 0)
+  if (s.RechenArt == art::Keine)
     throw Eingabefehler("the calculation of kind " + std::to_string(art) + " cannot start");
   if (a.Bezugspunkt && !bezug_.benutzt)
     fehler << "quor-cli: note: --ref-point is not used by this calculation; ignored\n";
