@@ -1,5 +1,6 @@
 #include "diagrams/diagramm_befehle.h"
 
+#include "diagrams/diagramm3d_art.h"
 #include "dienste/oberflaeche.h"
 #include "engine/eos_zeilen.h"
 
@@ -238,7 +239,7 @@ bool GrafErlaubt(const ProjectState& s, ui::Oberflaeche& ui, const std::string& 
 }
 
 bool Reales3D(const ProjectState& s, ui::Oberflaeche& ui, int art) {
-  if ((art != 1 && art != 3) || !Kubisch(s)) return true;
+  if ((art != art3d::Druck && art != art3d::Temperatur) || !Kubisch(s)) return true;
   return ui.Frage("Reales Verhalten zeichnen?\r\n(Nein = Zeichnen von S-Kurven im unterkritischen Bereich)",
                   "nur für kubische EOS", ui::Knoepfe::JaNein, ui::Antwort::Ja) == ui::Antwort::Ja;
 }
