@@ -2,7 +2,6 @@
 // result list (.LST) and the record (CSV) written by the page itself.
 #include "calc/bericht.h"
 #include "cli/ausgabe.h"
-#include "cli/baq_datei.h"
 #include "cli/befehle.h"
 #include "cli/fehler.h"
 #include "cli/steuerung.h"
@@ -10,6 +9,7 @@
 #include "core/festtext.h"
 #include "core/rechen_art.h"
 #include "core/zahlformat.h"
+#include "fitting/batch_datei.h"
 
 #include <cmath>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "cli/baq_datei.h"
+#include "fitting/batch_datei.h"
 
 #include "core/datei_io.h"
 #include "core/festtext.h"
@@ -9,7 +9,7 @@
 #include <cmath>
 #include <filesystem>
 
-namespace quor::cli {
+namespace quor {
 
 namespace {
 
@@ -115,4 +115,4 @@ bool LadeBatchDatei(ProjectState& s, ui::Oberflaeche& ui, const std::string& pfa
   return true;
 }
 
-} // namespace quor::cli
+} // namespace quor
