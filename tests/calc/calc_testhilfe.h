@@ -9,12 +9,11 @@
 #include "engine/korrelationen.h"
 #include "engine/saettigung.h"
 #include "engine/zustand.h"
+#include "support/golden.h"
 #include "support/stoff_fixture.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <fstream>
 #include <sstream>
 #include <string>
 
@@ -141,21 +140,9 @@ inline std::string SeitenText(const ErgebnisSeite& seite) {
   return aus.str();
 }
 
-// Compares the page with tests/data/calc/<name>.txt byte for byte; QUOR_GOLDEN_NEU=1 rewrites the
-// file from the running code instead (only after each text was checked by hand).
+// Compares the page with tests/data/calc/<name>.txt byte for byte.
 inline void WieGespeichert(const ErgebnisSeite& seite, const std::string& name) {
-  const std::string pfad = std::string(QUOR_TESTDATEN) + "/calc/" + name + ".txt";
-  const std::string ist = SeitenText(seite);
-  const char* neu = std::getenv("QUOR_GOLDEN_NEU");
-  if (neu != nullptr && std::string(neu) == "1") {
-    std::ofstream(pfad, std::ios::binary) << ist;
-    return;
-  }
-  std::ifstream datei(pfad, std::ios::binary);
-  ASSERT_TRUE(datei.good()) << "missing " << name << ".txt (QUOR_GOLDEN_NEU=1 writes it)";
-  std::stringstream soll;
-  soll << datei.rdbuf();
-  EXPECT_EQ(ist, soll.str()) << "page differs from " << name << ".txt";
+  PruefeGolden("calc/" + name + ".txt", SeitenText(seite));
 }
 
 } // namespace quor::test

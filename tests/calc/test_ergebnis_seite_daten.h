@@ -5,9 +5,9 @@
 
 #include "calc/ergebnis_seite.h"
 #include "core/datei_io.h"
+#include "support/golden.h"
 #include "support/temp_ordner.h"
 
-#include <cstdlib>
 #include <map>
 #include <string>
 #include <vector>
@@ -16,17 +16,9 @@
 
 namespace quor::test {
 
-// Compares the bytes with tests/data/calc/seite/<name>; QUOR_GOLDEN_NEU=1 writes them there instead.
+// Compares the bytes with tests/data/calc/seite/<name>.
 inline void VergleicheMitGolden(const std::string& name, const std::string& ist) {
-  const std::string pfad = std::string(QUOR_TESTDATEN) + "/calc/seite/" + name;
-  const char* neu = std::getenv("QUOR_GOLDEN_NEU");
-  if (neu != nullptr && std::string(neu) == "1") {
-    ASSERT_TRUE(SchreibeDateiBytes(pfad, ist));
-    return;
-  }
-  std::string soll;
-  ASSERT_TRUE(LeseDateiBytes(pfad, soll)) << "golden file missing: " << name;
-  EXPECT_EQ(ist, soll) << "differs from the golden file " << name;
+  PruefeGolden("calc/seite/" + name, ist);
 }
 
 struct Messpunkt {

@@ -3,7 +3,12 @@
 #include "core/daten_diagnose.h"
 #include "dienste/skript_oberflaeche.h"
 
+#include "support/golden.h"
+
 #include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
 
 namespace quor {
 namespace {
@@ -80,57 +85,27 @@ TEST(DatenDiagnose, KnowsEachVapourPressureSourceAndOmegaInSinglePrecision) {
   EXPECT_TRUE(d.KritOK && d.SiedeOK && d.HLVOK && d.AmpelNichtRot);
 }
 
+// The whole report for each level, from golden files core/ampel_<level>.txt.
 TEST(DatenDiagnose, ReportsEveryTestAndTheLevel) {
-  ProjectState voll = VollerStoff();
-  EXPECT_EQ(DatenAmpelText(voll), "- Kritische Daten verfügbar\r\n"
-                                  "- azentrischer Faktor omega verfügbar\r\n"
-                                  "- Dampfdruckgleichungen p(T) verfügbar\r\n"
-                                  "- Normalsiedetemperatur verfügbar\r\n"
-                                  "- Verdampfungsenthalpie-Gleichungen delta(LV)H = f(T)\r\n"
-                                  "  verfügbar\r\n"
-                                  "\r\n"
-                                  "BEI DIESER DATENLAGE BESTEHEN KEINERLEI EINSCHRÄNKUNGEN  \r\n");
-
   ProjectState leer;
   leer.Projekt.Ampel.DatenAmpel = 1; // the report judges anew
-  EXPECT_EQ(DatenAmpelText(leer), "- keine kritischen Daten verfügbar;\r\n"
-                                  "  keine Berechnungen möglich\r\n"
-                                  "  Verwenden Sie - wenn möglich - die angebotenen Inkrement-Methoden\r\n"
-                                  "  (=> Daten / Abschätzung von Stoffdaten aus Molekülstrukturgruppen)\r\n"
-                                  "- kein azentrischer Faktor omega verfügbar; es wird omega = 0 gesetzt.\r\n"
-                                  "  Damit sind einige kubische Zustandsgleichungen (CEOS)\r\n"
-                                  "  nur eingeschränkt anwendbar\r\n"
-                                  "- Dampfdruckgleichungen p(T) nicht verfügbar\r\n"
-                                  "- keine Normalsiedetemperatur verfügbar;\r\n"
-                                  "  damit sind korrelierte Dampfdruckgll. nicht berechenbar\r\n"
-                                  "- Keine Verdampfungsenthalpie-Gleichungen delta(LV)H = f(T)\r\n"
-                                  "  verfügbar\r\n"
-                                  "  keine delta(LV)H-Diagramme und -berechnungen möglich\r\n"
-                                  "\r\n"
-                                  "BEI DIESER DATENLAGE SIND KEINERLEI BERECHNUNGEN MÖGLICH \r\n"
-                                  "Fehlende Daten könnten evtl. im Datenbank-Editor ergänzt werden\r\n"
-                                  "(=> Klick auf Icon \"db\"\r\n");
-  EXPECT_EQ(leer.Projekt.Ampel.DatenAmpel, 4);
-
   ProjectState schwer = VollerStoff();
   schwer.Stoff.FrostKalkwarfGrenzen.TLo = 0;
-  EXPECT_NE(DatenAmpelText(schwer).find("\r\n\r\nBEI DIESER DATENLAGE BESTEHEN SCHWERE EINSCHRÄNKUNGEN  \r\n"
-                                        "Fehlende Daten könnten im Datenbank-Editor ergänzt werden\r\n"
-                                        "(=> Klick auf Icon \"db\"\r\n"),
-            std::string::npos);
-
   ProjectState einige = VollerStoff();
   einige.Stoff.TSiede = 0;
+  for (auto [name, s] : {std::pair{"keine", VollerStoff()}, {"alles", leer}, {"schwer", schwer}}) {
+    SCOPED_TRACE(name);
+    test::PruefeGolden(std::string("core/ampel_") + name + ".txt", DatenAmpelText(s));
+  }
+  DatenAmpelText(leer);
+  EXPECT_EQ(leer.Projekt.Ampel.DatenAmpel, 4);
+
+  // The command shows the same text under its title.
   ui::SkriptOberflaeche ui;
   cmdDatenDiagnose(einige, ui);
   ASSERT_EQ(ui.Meldungen().size(), 1u);
   EXPECT_EQ(ui.Letzte().titel, "Stoffdatensituation (Daten-Ampel)");
-  const std::string& text = ui.Letzte().text;
-  const std::string schluss = "\r\n\r\nBEI DIESER DATENLAGE BESTEHEN EINIGE Einschränkungen \r\n"
-                              "Fehlende Daten könnten evtl. im Datenbank-Editor ergänzt werden\r\n"
-                              "(=> Klick auf Icon \"db\"\r\n";
-  ASSERT_GE(text.size(), schluss.size());
-  EXPECT_EQ(text.substr(text.size() - schluss.size()), schluss);
+  test::PruefeGolden("core/ampel_einige.txt", ui.Letzte().text);
 }
 
 } // namespace

@@ -2,10 +2,14 @@
 // data, and the warning for a data file of another substance.
 #include "core/projekt_status.h"
 
+#include "support/golden.h"
+
 #include <gtest/gtest.h>
 
 namespace quor {
 namespace {
+
+using test::PruefeGolden;
 
 ProjectState MitStoff() {
   ProjectState s;
@@ -29,25 +33,7 @@ TEST(ProjektStatus, DescribesANewProject) {
   ProjectState s;
   InitProjectState(s);
   EXPECT_STREQ(ProjektStatusTitel, " Info Projekt-Status ");
-  EXPECT_EQ(ProjektStatusText(s),
-            "Projekt\r\n"
-            "    neu (noch unbenannt)\r\n"
-            "    (noch nicht vollständig definiert)\r\n"
-            "    Projektkommentar: <>\r\n"
-            "\r\n"
-            "Stoffdatenbank\r\n"
-            "    (noch keine)\r\n"
-            "\r\n"
-            "Stoff\r\n"
-            "    noch kein Stoff\r\n"
-            "\r\n"
-            "experimentelle T-p-rho-HLV-cp-Daten\r\n"
-            "    keine\r\n"
-            "\r\n"
-            "Vorgabe-Parameter für isotherme, isobare, isochore Diagramme\r\n"
-            "    T/K = 0, p/kPa = 0, v/(m^3/kmol) = 0\r\n"
-            "\r\n"
-            "(weitere geladene Projekt-Parameter s. unter \"Modelle\" und \"Optionen\")\r\n");
+  PruefeGolden("core/status_neu.txt", ProjektStatusText(s));
 }
 
 TEST(ProjektStatus, DescribesALoadedProjectWithUnsavedData) {
@@ -56,27 +42,7 @@ TEST(ProjektStatus, DescribesALoadedProjectWithUnsavedData) {
   s.Projekt.ProjektDatum = "01.02.2024";
   s.Projekt.DateiKommentar = "Erdgas";
   s.Mess.ExpAnzahl = 1;
-  EXPECT_EQ(ProjektStatusText(s),
-            "Projekt\r\n"
-            "    letzte Sitzung\r\n"
-            "    Dateidatum 01.02.2024\r\n"
-            "    Projektkommentar: Erdgas\r\n"
-            "\r\n"
-            "Stoffdatenbank\r\n"
-            "    QUOR.Q07 mit 430 Stoff(en)\r\n"
-            "\r\n"
-            "Stoff\r\n"
-            "    CH4   Methan   CAS-RN: 74-82-8\r\n"
-            "\r\n"
-            "experimentelle T-p-rho-HLV-cp-Daten\r\n"
-            "    1 exper. Punkt verfügbar,\r\n"
-            "    noch nicht gespeichert.\r\n"
-            "\r\n"
-            "Vorgabe-Parameter für isotherme, isobare, isochore Diagramme\r\n"
-            "    T/K = 190.56, p/kPa = 4599, v/(m^3/kmol) = 0.1\r\n"
-            "    (Der v-Parameter v(crit.) wurde mit der CEOS Peng / Robinson berechnet.)\r\n"
-            "\r\n"
-            "(weitere geladene Projekt-Parameter s. unter \"Modelle\" und \"Optionen\")\r\n");
+  PruefeGolden("core/status_geladen.txt", ProjektStatusText(s));
 
   s.Projekt.LetzteSitzung = false;
   s.Projekt.ProjektDatei = "Erdgas.QC6";

@@ -13,27 +13,8 @@ namespace {
 
 using test::TempOrdner;
 
-// Three blocks, the "END" line, and one block behind it that must never be read.
-const std::string SynonymText = "74-82-8\r\n"
-                                "CH4_Methane_Methan\r\n"
-                                "METHANE\r\n"
-                                "METHAN\r\n"
-                                "SUMPF-GAS\r\n"
-                                "\r\n"
-                                "64-19-7\r\n"
-                                "C2H4O2_Acetic acid_Essigsäure\r\n"
-                                "ACETICACID\r\n"
-                                "ESSIGSÄURE\r\n"
-                                "\r\n"
-                                "78-93-3\r\n"
-                                "C4H8O_Methyl ethyl ketone_\r\n"
-                                "METHYLETHYLKETON\r\n"
-                                "\r\n"
-                                "END\r\n"
-                                "1-1-1\r\n"
-                                "X_Hinten_Hinten\r\n"
-                                "HINTERDEMENDE\r\n"
-                                "\r\n";
+// Three blocks, the "END" line, and one block behind it that must never be read (UTF-8, CR LF).
+const std::string SynonymText = test::LeseDatei(std::string(QUOR_TESTDATEN) + "/substance/synonyme.txt");
 
 struct Suche {
   TempOrdner dir;
