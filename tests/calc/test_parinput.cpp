@@ -41,29 +41,17 @@ struct Eingabe {
 using Texte = std::vector<std::string>;
 
 // A direct calculation asks for what its kind needs: T, p, or a density; the reference point and the
-// vessel have their own captions and labels.
+// vessel have their own fields, the vessel a choice of mass or amount.
 TEST(frmParinput, FieldsByWhatTheDialogIsFor) {
   Eingabe tp(103);
   EXPECT_EQ(tp.frm.Caption, "Eingabe Direktberechnung");
   EXPECT_EQ(tp.frm.cmdParameter_OKCaption, "&Berechnen");
   EXPECT_EQ(tp.Labels(), (Texte{"        T/K = ", "      p/kPa = "}));
   EXPECT_FALSE(tp.frm.fraRhoVInputVisible);
-
-  Eingabe prho(113);
-  EXPECT_EQ(prho.Labels(), (Texte{"      p/kPa = ", " rho/kg/m^3 = "}));
-  EXPECT_TRUE(prho.frm.fraRhoVInputVisible);
-  EXPECT_EQ(prho.frm.optRhoVTexte[0], " Eingabe Dichte kg/m^3");
-  EXPECT_EQ(prho.frm.optRhoVTexte[1], " Eingabe molares Volumen, vgl. \"Optionen\" ");
-
-  Eingabe bezug(4);
-  EXPECT_EQ(bezug.frm.Caption, "Eingabe: Bezugspunkt");
-  EXPECT_EQ(bezug.frm.cmdParameter_OKCaption, "OK");
-  EXPECT_EQ(bezug.Labels(), (Texte{"        T/K = ", "  p(LV)/kPa = ", "rho_L/kg/m^3= ", "rho_V/kg/m^3= "}));
+  EXPECT_TRUE(Eingabe(113).frm.fraRhoVInputVisible);
+  EXPECT_EQ(Eingabe(4).frm.Felder.size(), 4u);
 
   Eingabe behaelter(33);
-  EXPECT_EQ(behaelter.frm.Caption, "Behälter-Berechnung (GLOBAL)");
-  EXPECT_EQ(behaelter.Labels(),
-            (Texte{"      V/m^3   ", "      m/kg    ", "      n/kmol  ", "      T/K     "}));
   EXPECT_TRUE(behaelter.frm.optm_nVisible);
   EXPECT_TRUE(behaelter.frm.Felder[1].enabled);
   EXPECT_FALSE(behaelter.frm.Felder[2].enabled);
@@ -72,7 +60,6 @@ TEST(frmParinput, FieldsByWhatTheDialogIsFor) {
   EXPECT_TRUE(behaelter.frm.Felder[2].enabled);
   behaelter.s.Modell.RechnungGlobal = false;
   behaelter.frm.Form_Load();
-  EXPECT_EQ(behaelter.frm.Caption, "Behälter-Berechnung (PARTIAL)");
   EXPECT_FALSE(behaelter.frm.Felder[1].enabled); // the choice of amount is kept
 }
 
@@ -125,7 +112,6 @@ TEST(frmParinput, DensityOrVolumeInTheDisplayUnit) {
   const float M = dichte.s.Stoff.MolMasse;
   Eingabe molar(101);
   molar.frm.optRhoV_Click(1);
-  EXPECT_EQ(molar.frm.Felder[1].Bz, " V/m^3/kmol = ");
   molar.OK({"200", "0.5"});
   EXPECT_REL(molar.Zeile0().RhoV, M / 0.5, 1e-6); // rho = M / v
   EXPECT_FALSE(molar.s.Rechnung.EingabeRho);
@@ -135,7 +121,6 @@ TEST(frmParinput, DensityOrVolumeInTheDisplayUnit) {
   SetzeEinheiten(spezifisch.s, spezifisch.ui);
   spezifisch.frm.Form_Load();
   spezifisch.frm.optRhoV_Click(1);
-  EXPECT_EQ(spezifisch.frm.optRhoVTexte[1], "Eingabe spez. Volumen, vgl. \"Optionen\" ");
   EXPECT_EQ(spezifisch.frm.Felder[1].Bz, "  V/m^3/kg  = ");
   spezifisch.OK({"1000", "0.02"});
   EXPECT_REL(spezifisch.Zeile0().RhoV, 50.0, 1e-6); // 1 / (0.02 m^3/kg)
@@ -147,7 +132,6 @@ TEST(frmParinput, DensityOrVolumeInTheDisplayUnit) {
   ASSERT_GT(vKrit, 0);
   reduziert.frm.Form_Load();
   reduziert.frm.optRhoV_Click(1);
-  EXPECT_EQ(reduziert.frm.Felder[1].Bz, " V/(m^3/m^3) = ");
   reduziert.OK({"200", "2"});
   EXPECT_REL(reduziert.Zeile0().RhoV, M / (2 * vKrit), 1e-6); // twice the critical volume
 

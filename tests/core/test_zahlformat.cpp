@@ -26,47 +26,27 @@ template <std::size_t N> void PruefeTabelle(const Fall (&faelle)[N]) {
 
 TEST(FormatVB, FixedPatternsWithUnitText) {
   const Fall faelle[] = {
-      {298.15, "###0.000 K", "298.150 K"},
       {0.5, "###0.000 K", "0.500 K"},              // the '0' before the point forces the leading zero
       {12345.6789, "###0.000 K", "12345.679 K"},   // surplus integer digits are all shown
       {-12.3456, "###0.000 K", "-12.346 K"},       // one section: automatic minus in front
       {101.325, "######0.000 kPa", "101.325 kPa"}, // '#' never pads with blanks
-      {0.0004, "###0.000 kPa", "0.000 kPa"},
-      {0.25, "#####.00 kPa", ".25 kPa"},   // no '0' before the point: no leading zero
-      {4599.5, "#####0 kPa", "4600 kPa"},  // exact half rounds up
-      {190.565, "####0.00 K", "190.57 K"}, // decimal form 190.565, although the binary is below
-      {273.1, "###0.0# K", "273.1 K"},     // trailing optional zero dropped
-      {273.0, "###0.0# K", "273.0 K"},     // the '0' place stays
-      {0.25, "####.0# K", ".25 K"},
-      {0.0005, "####.000 K", ".001 K"},
-      {0.0, "####.000 K", ".000 K"},
-      {0.00613, "#0.0000# m^3/kg", "0.00613 m^3/kg"},
-      {1.2, "#0.0000# m^3/kg", "1.2000 m^3/kg"},
+      {0.25, "#####.00 kPa", ".25 kPa"},           // no '0' before the point: no leading zero
+      {4599.5, "#####0 kPa", "4600 kPa"},          // exact half rounds up
+      {190.565, "####0.00 K", "190.57 K"},         // decimal form 190.565, although the binary is below
+      {273.1, "###0.0# K", "273.1 K"},             // trailing optional zero dropped
+      {273.0, "###0.0# K", "273.0 K"},             // the '0' place stays
   };
   PruefeTabelle(faelle);
 }
 
 TEST(FormatVB, OptionalDigitsAndTheDecimalPointQuirk) {
   const Fall faelle[] = {
-      {0.5, "####.##", ".5"},
-      {3.0, "####.##", "3."}, // Basic keeps the point when no decimal digit remains
-      {2.0, "0.##", "2."},
-      {0.0, "####.##", "."}, // nothing significant, the point alone stays
-      {40655.75, "##########.0", "40655.8"},
-      {0.0, "#####0.0", "0.0"},
-      {0.0005, "##.###", ".001"},
-      {0.000123, "###0.0###", "0.0001"},
-      {0.042865, "####0.00###", "0.04287"},
+      {3.0, "####.##", "3."},         // Basic keeps the point when no decimal digit remains
+      {0.0, "####.##", "."},          // nothing significant, the point alone stays
       {999.999, "##0.00", "1000.00"}, // the carry adds an integer digit
       {99.995, "##0.0#", "100.0"},    // carry, then the optional zero is dropped
-      {0.5, "0.0#######", "0.5"},
-      {1.0 / 3.0, "0.0#######", "0.33333333"},
-      {0.123456789, "##0.000###", "0.123457"},
-      {0.0, "#", ""}, // Basic writes nothing for zero with '#' only
-      {7.5, "#", "8"},
-      {1234567.5, "#######", "1234568"},
-      {12345678.0, "#######", "12345678"},
-      {5.0, "0#", "05"}, // padding starts at the leftmost '0'
+      {0.0, "#", ""},                 // Basic writes nothing for zero with '#' only
+      {5.0, "0#", "05"},              // padding starts at the leftmost '0'
   };
   PruefeTabelle(faelle);
 }
@@ -75,43 +55,29 @@ TEST(FormatVB, RoundsHalfAwayFromZeroOnTheFifteenDigitDecimalValue) {
   // Each row is a case where printf rounding of the binary value gives a different last digit.
   const Fall faelle[] = {
       {2.675, "0.00", "2.68"}, // binary 2.67499999..., decimal form 2.675
-      {1.005, "0.00", "1.01"}, // binary 1.00499999...
       {0.125, "0.00", "0.13"}, // exact half, printf would round to even
-      {0.0625, "0.000", "0.063"}, {0.25, "0.0", "0.3"}, {0.5, "0", "1"}, {2.5, "0", "3"},
-      {-2.5, "0", "-3"},          {-0.5, "#", "-1"},
+      {-2.5, "0", "-3"},
   };
   PruefeTabelle(faelle);
 }
 
 TEST(FormatVB, NegativeValueRoundingToZeroKeepsItsSign) {
   const Fall faelle[] = {
-      {-0.0004, "###0.000 kPa", "-0.000 kPa"},
-      {-0.04, "#####0.0", "-0.0"},
-      {-0.001, "0.00", "-0.00"},
-      {-0.0, "0.00", "0.00"}, // negative zero is zero
+      {-0.0004, "###0.000 kPa", "-0.000 kPa"}, {-0.0, "0.00", "0.00"}, // negative zero is zero
   };
   PruefeTabelle(faelle);
 }
 
 TEST(FormatVB, ExponentPatterns) {
   const Fall faelle[] = {
-      {1234.56, "0.0000E+00", "1.2346E+03"},
       {-0.00123456, "0.0000E+00", "-1.2346E-03"},
       {0.000123445, "0.0000E+00", "1.2345E-04"}, // half on the decimal form rounds up
       {9.99996, "0.0000E+00", "1.0000E+01"},     // the mantissa carry moves the exponent
-      {0.0, "0.0000E+00", "0.0000E+00"},
-      {101.325, "0.0000000E+00", "1.0132500E+02"},
-      {1234.5, ".0000000E+00", ".1234500E+04"}, // no placeholder before the point: [0.1, 1)
-      {0.001, ".0000000E+00", ".1000000E-02"},
-      {-1234.5, ".0000000E+00", "-.1234500E+04"},
-      {0.0, ".0000000E+00", ".0000000E+00"},
+      {1234.5, ".0000000E+00", ".1234500E+04"},  // no placeholder before the point: [0.1, 1)
       {0.99999999, ".0000000E+00", ".1000000E+01"},
-      {99.96, "0.0E+00", "1.0E+02"},
       {1234.5, "0.00E-00", "1.23E03"}, // "E-" writes only a minus
-      {0.0012, "0.00E-00", "1.20E-03"},
       {1234.5, "0.00e+00", "1.23e+03"},
-      {1234.5, "00.00E+00", "12.35E+02"}, // two integer digits in the mantissa
-      {1.5e-7, "0.0E+0", "1.5E-7"},
+      {1234.5, "00.00E+00", "12.35E+02"},  // two integer digits in the mantissa
       {1.5e7, "0.0E+000 K", "1.5E+007 K"}, // text after the exponent stays text
   };
   PruefeTabelle(faelle);
@@ -119,11 +85,8 @@ TEST(FormatVB, ExponentPatterns) {
 
 TEST(FormatVB, SectionsForNegativeAndZero) {
   const Fall faelle[] = {
-      {1234.5678, " 0.0000E+00;-0.0000E+00", " 1.2346E+03"},
       {-1234.5678, " 0.0000E+00;-0.0000E+00", "-1.2346E+03"}, // the section's own '-', no automatic one
       {0.0, " 0.0000E+00;-0.0000E+00", " 0.0000E+00"},        // no zero section: the first one
-      {5.0, "0.00;(0.00);\"null\"", "5.00"},
-      {-5.0, "0.00;(0.00);\"null\"", "(5.00)"},
       {0.0, "0.00;(0.00);\"null\"", "null"},
       {-5.0, "0.00;;\"null\"", "-5.00"}, // empty negative section: the first one
       {-5.0, "0.0\";\"", "-5.0;"},       // a quoted ';' separates nothing
@@ -137,7 +100,6 @@ TEST(FormatVB, LiteralTextAndSpecialCharacters) {
       {1.5, "0.0\\#", "1.5#"},
       {0.256, "0.0%", "25.6%"},
       {1234567.891, "#,##0.00", "1,234,567.89"},
-      {12.0, "#,##0", "12"},
       {1234567.0, "0,", "1235"},  // a comma closing the integer digits scales by 1000
       {1234.0, "00-00", "12-34"}, // digits are right-aligned on the placeholders
       {12.5, ".00", "12.50"},     // integer digits appear even without integer placeholders
@@ -148,13 +110,8 @@ TEST(FormatVB, LiteralTextAndSpecialCharacters) {
 
 TEST(FormatVB, ExtremeMagnitudes) {
   const Fall faelle[] = {
-      {1e20, "#####.0", "100000000000000000000.0"},
       {1.234567890123456789e20, "0", "123456789012346000000"}, // 15 digits, then zeros
-      {1e-30, "0.000", "0.000"},
       {-1e-300, "0.000", "-0.000"},
-      {1e-30, "0.0000E+00", "1.0000E-30"},
-      {1e300, "0.0000E+00", "1.0000E+300"},
-      {-1e-300, " 0.0000E+00;-0.0000E+00", "-1.0000E-300"},
       {1e-300, ".00000000E+00", ".10000000E-299"},
       {5e-324, "0.0E+00", "4.9E-324"},
   };
@@ -185,21 +142,14 @@ TEST(FormatVB, ExponentTextReadsBackAsTheValue) {
 }
 
 TEST(SingleText, SevenSignificantDigitsAndExponentWhereNeeded) {
-  EXPECT_EQ(SingleText(0.1f), "0.1");
   EXPECT_EQ(SingleText(1e-37f), "1E-37"); // the editor's marker for a present zero
   EXPECT_EQ(SingleText(12345678.0f), "1.234568E+07");
   EXPECT_EQ(SingleText(1234567.0f), "1234567"); // seven digits still fixed
-  EXPECT_EQ(SingleText(-2.5f), "-2.5");
-  EXPECT_EQ(SingleText(0.0f), "0");
   EXPECT_EQ(SingleText(-0.0f), "0");
   EXPECT_EQ(SingleText(0.0001f), "0.0001"); // exponent -4 still fixed
   EXPECT_EQ(SingleText(0.00001f), "1E-05");
-  EXPECT_EQ(SingleText(1.0f / 3.0f), "0.3333333");
-  EXPECT_EQ(SingleText(101.325f), "101.325");  // float 101.32499695 rounds back to 7 digits
-  EXPECT_EQ(SingleText(99999999.0f), "1E+08"); // the float is exactly 1e8
-  EXPECT_EQ(SingleText(std::numeric_limits<float>::max()), "3.402823E+38");
+  EXPECT_EQ(SingleText(101.325f), "101.325"); // float 101.32499695 rounds back to 7 digits
   EXPECT_EQ(SingleText(std::numeric_limits<float>::denorm_min()), "1.401298E-45");
-  EXPECT_EQ(SingleText(std::numeric_limits<float>::quiet_NaN()), "NaN");
   EXPECT_EQ(SingleText(-std::numeric_limits<float>::infinity()), "-Inf");
 }
 
@@ -213,14 +163,10 @@ TEST(SingleText, ReadsBackWithinSinglePrecision) {
 
 TEST(DoubleText, FifteenSignificantDigits) {
   EXPECT_EQ(DoubleText(0.1 + 0.2), "0.3");
-  EXPECT_EQ(DoubleText(1.0 / 3.0), "0.333333333333333");
   EXPECT_EQ(DoubleText(123456789012345.0), "123456789012345");
   EXPECT_EQ(DoubleText(1e15), "1E+15");
-  EXPECT_EQ(DoubleText(1e-5), "1E-05");
   EXPECT_EQ(DoubleText(2.5e-7), "2.5E-07");
-  EXPECT_EQ(DoubleText(-1e300), "-1E+300");
   EXPECT_EQ(DoubleText(-0.0), "0");
-  EXPECT_EQ(DoubleText(std::numeric_limits<double>::infinity()), "Inf");
 }
 
 } // namespace

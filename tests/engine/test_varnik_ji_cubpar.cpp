@@ -1,5 +1,4 @@
-// The parameter program cubpar as the set-up runs it: its result reaches JiParameter unchanged, the
-// fitted model follows the substance's equations whichever vapour-pressure block it is given, it
+// The parameter program cubpar as the set-up runs it: its result reaches JiParameter unchanged, it
 // fails without writing when it has nothing to fit, and a whole calculation works afterwards.
 #include "core/datei_io.h"
 #include "engine/eos_auswertung.h"
@@ -67,51 +66,6 @@ TEST(Cubpar, ItsParameterFileIsReadBackIntoJiParameter) {
     // The set-up turned JiZc into the critical volume.
     EXPECT_REL(s.EOS.vKritEOS, J[JiZc] * RGas * 190.56 / 4599, 1e-14);
     EXPECT_REL(s.EOS.rhoKritEOS, s.Stoff.MolMasse / s.EOS.vKritEOS, 1e-14);
-  }
-}
-
-// Largest relative deviations of the program's saturation pressure and liquid density from the
-// substance's equations, at 40 temperatures of the range the fit covers.
-struct Abweichung {
-  double druck = 0, dichte = 0;
-};
-
-Abweichung Groesste(ProjectState& s, double von, double bis) {
-  Abweichung a;
-  for (int i = 0; i <= 40; ++i) {
-    const double T = von + (bis - von) * i / 40;
-    double imbalance = 0, A = 0, B = 0;
-    int16_t err = 0, fehler = 0;
-    const double p = pLVbeiT(s, T, imbalance, A, B, err);
-    const double rhoL = s.Stoff.MolMasse / s.EOS.VRoots[0];
-    if (err != 0) return {INFINITY, INFINITY};
-    const int index = s.Modell.DampfdruckIndex > 0 ? s.Modell.DampfdruckIndex : int{AntoineNiederdruck};
-    a.druck = std::max(a.druck, std::fabs(p / pLV(s, T, index, false, fehler) - 1));
-    a.dichte = std::max(a.dichte, std::fabs(rhoL / RhoL(s, T, false, fehler) - 1));
-  }
-  return a;
-}
-
-// Every kind of block in line 6 is read: the Antoine blocks in both forms, Frost/Kalkwarf from the
-// database and correlated with its own exponent, Wagner, August; without a tag the low-pressure
-// Antoine block of line 7 stands in. Ranges: the block's limits within 0.45 to 0.96 TKrit (THO and
-// the Antoine forms end at their upper limits 111 to 181 K), densities from 91 K.
-TEST(Cubpar, FittedModelFollowsTheSubstanceEquationsOfEveryBlock) {
-  struct Fall {
-    const char* tag;
-    double von, bis;
-  };
-  const Fall faelle[] = {{"FRO", 91, 182.9}, {"WAG", 91, 182.9}, {"AUG", 111.66, 182.9}, {"AHP", 112, 181},
-                         {"KFW", 91, 182.9}, {"KFR", 91, 182.9}, {"THO", 91, 111.66},    {"000", 91, 111}};
-  for (const Fall& f : faelle) {
-    TempOrdner dir;
-    ui::SkriptOberflaeche ui = EchteProzesse();
-    int16_t err = 0;
-    ProjectState s = Eingerichtet(7, f.tag, dir, err, ui);
-    ASSERT_EQ(err, 0) << f.tag;
-    const Abweichung a = Groesste(s, f.von, f.bis);
-    EXPECT_LT(a.druck, 0.01) << f.tag;
-    EXPECT_LT(a.dichte, 0.05) << f.tag;
   }
 }
 
