@@ -203,27 +203,24 @@ TEST(frmCalcIn, OkGoesOnWithTheCalculation) {
   EXPECT_FALSE(d.s.Referenz.BezugGueltig); // GLOBAL: no reference point was made
   EXPECT_TRUE(d.frm.Geschlossen);
 
-  struct Fall {
-    int16_t art;
-    bool ausDiagramm, stapel;
-    Schritte schritte;
-  };
-  const Fall faelle[] = {{10, false, false, {"frmParinput zu", "frmParinput"}},
-                         {4, true, false, {"frmParinput zu", "Diagramm"}},
-                         {5, false, true, {"frmParinput zu", "frmQCalcOut"}}};
-  for (const Fall& f : faelle) {
-    SCOPED_TRACE(f.art);
-    Dialog weiter(6, f.art);
-    weiter.frm.AusDiagramm = f.ausDiagramm;
-    weiter.s.Rechnung.StapelModus = f.stapel;
-    weiter.frm.Form_Load();
-    weiter.frm.OK_Click();
-    EXPECT_EQ(weiter.fenster.schritte, f.schritte);
-    if (f.art == 10) {
-      EXPECT_EQ(weiter.s.Rechnung.ParinputModus, 33);
-      EXPECT_TRUE(weiter.s.Referenz.BezugGueltig); // the proposal was made on opening
-    }
-  }
+  Dialog behaelter(6, 10);
+  behaelter.frm.Form_Load();
+  behaelter.frm.OK_Click();
+  EXPECT_EQ(behaelter.fenster.schritte, (Schritte{"frmParinput zu", "frmParinput"}));
+  EXPECT_EQ(behaelter.s.Rechnung.ParinputModus, 33);
+  EXPECT_TRUE(behaelter.s.Referenz.BezugGueltig); // the proposal was made on opening
+
+  Dialog diagramm(6, 4);
+  diagramm.frm.AusDiagramm = true;
+  diagramm.frm.Form_Load();
+  diagramm.frm.OK_Click();
+  EXPECT_EQ(diagramm.fenster.schritte, (Schritte{"frmParinput zu", "Diagramm"}));
+
+  Dialog stapel(6, 5);
+  stapel.s.Rechnung.StapelModus = true;
+  stapel.frm.Form_Load();
+  stapel.frm.OK_Click();
+  EXPECT_EQ(stapel.fenster.schritte, (Schritte{"frmParinput zu", "frmQCalcOut"}));
 
   Dialog abbruch(6, 4);
   abbruch.frm.Form_Load();
