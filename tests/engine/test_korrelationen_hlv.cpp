@@ -1,8 +1,8 @@
 // Enthalpy of vaporization: the database function, the correlations with their rounding to whole
 // kJ/kmol, where T and p come from when they are not given, and the failures.
+#include "dienste/skript_oberflaeche.h"
 #include "engine/korrelationen.h"
 #include "support/relativ.h"
-#include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
 
@@ -45,9 +45,6 @@ TEST(Verdampfungsenthalpie, DatabaseFunctionMeetsWaterAtItsBoilingPoint) {
   EXPECT_EQ(failed, 0);
   EXPECT_EQ(HLVFu(s, 650, failed), 0.0); // beyond it the power has a negative base
   EXPECT_EQ(failed, -1);
-  s.Stoff.HLVTcr = 0;
-  EXPECT_EQ(HLVFu(s, 373.15, failed), 0.0);
-  EXPECT_EQ(failed, 0);
 }
 
 TEST(Verdampfungsenthalpie, CorrelationsComeOutInWholeKilojoules) {
@@ -90,7 +87,7 @@ TEST(Verdampfungsenthalpie, DatabaseFunctionWarnsBeyondFiveKelvin) {
   EXPECT_EQ(failed, 0);
 }
 
-TEST(Verdampfungsenthalpie, MissingPressureComesFromTheEquationThenTheDataPoint) {
+TEST(Verdampfungsenthalpie, MissingPressureOrTemperatureComesFromTheEquationThenTheDataPoint) {
   ProjectState s = Wasser();
   int16_t failed = -1;
   HLVErgebnis erg;
@@ -106,13 +103,9 @@ TEST(Verdampfungsenthalpie, MissingPressureComesFromTheEquationThenTheDataPoint)
   EXPECT_EQ(Hlv(s, 2, 373.15, 0, failed, erg), 0.0);
   EXPECT_EQ(failed, -1);
   EXPECT_EQ(erg.notizen, std::vector<std::string>{"kein p verfügbar"});
-}
 
-TEST(Verdampfungsenthalpie, MissingTemperatureComesFromTheInverseThenTheDataPoint) {
-  ProjectState s = Wasser();
-  int16_t failed = -1;
-  HLVErgebnis erg;
-  double T = 0, p = 101.325;
+  T = 0;
+  p = 101.325;
   EXPECT_REL(HLVBerechnen(s, 3, T, p, 1, false, erg, failed), 41805, 1e-4);
   EXPECT_REL(T, 373.15, 2e-4);
   EXPECT_EQ(erg.notizen.front(), "T = T(LV) von Dampfdruckgleichung Antoine (T < Normalsiede-T)(MDB-Gl)");
@@ -135,10 +128,9 @@ TEST(Verdampfungsenthalpie, FailuresWithoutAValue) {
   EXPECT_EQ(failed, -1);
   EXPECT_TRUE(erg.notizen.empty());
   for (int methode : {0, 5, 6, 7, 8}) {
-    SCOPED_TRACE(methode);
     failed = 0;
     EXPECT_EQ(Hlv(s, methode, 373.15, 101.325, failed, erg, 1), 0.0);
-    EXPECT_EQ(failed, -1);
+    EXPECT_EQ(failed, -1) << methode;
   }
   // Without a critical pressure Chen has no value.
   s.Stoff.pKrit = 0;
