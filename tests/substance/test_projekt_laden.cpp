@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace quor {
 namespace {
 
@@ -74,24 +76,15 @@ TEST_F(ProjektLadenTest, AProjectBringsBackItsDatabaseSubstanceAndModels) {
   s.Modell.VirialFlag = true; // the family of a former model must not stay
   ASSERT_EQ(Laden(pfad), 0);
   EXPECT_TRUE(ui.protokoll.empty());
-  EXPECT_EQ(batch, "etoh.BAQ");
-  EXPECT_EQ(kind, 7);
-  EXPECT_TRUE(s.Datenbank.DatenbankGeladen);
-  EXPECT_EQ(s.Datenbank.PfadQ07, "QUOR.Q07");
-  EXPECT_EQ(s.Stoff.StoffName, "Ethanol");
+  EXPECT_EQ(std::tie(batch, kind, s.Datenbank.PfadQ07, s.Mess.ExpAnzahl, s.Projekt.ProjektDatum),
+            std::make_tuple("etoh.BAQ", 7, "QUOR.Q07", 9, "05.06.2024 07:08:09"));
   EXPECT_EQ(s.Datenbank.StoffIndex, IndexVonCAS(s, CasEthanol));
   EXPECT_EQ(s.Projekt.StatusLeiste[2], "Ethanol");
   EXPECT_NE(s.Projekt.Ampel.DatenAmpel, 0); // the data are graded as after a choice in the list
-  EXPECT_TRUE(s.Projekt.Freigaben.Stoff);
-  EXPECT_TRUE(s.Projekt.Freigaben.KritischerPunkt);
-  EXPECT_EQ(s.Mess.ExpAnzahl, 9);
-  EXPECT_EQ(s.Projekt.DateiKommentar, "Ethanol-Messreihe");
-  EXPECT_EQ(s.Projekt.ProjektDatum, "05.06.2024 07:08:09");
+  EXPECT_TRUE(s.Projekt.Freigaben.Stoff && s.Projekt.Freigaben.KritischerPunkt);
   EXPECT_FALSE(s.Projekt.LetzteSitzung);
-
-  EXPECT_EQ(s.Modell.EOSIndex, 6); // the settings themselves are the project file's round trip
+  // The settings themselves are the project file's round trip; the former virial family goes.
   EXPECT_FALSE(s.Modell.VirialFlag);
-  EXPECT_EQ(s.Modell.DampfdruckTag, "THO");
   // Saved without manual normalisation: the presets come from the critical point.
   EXPECT_EQ(s.Einheiten.TVorgabe, static_cast<float>(s.Stoff.TKrit));
   EXPECT_EQ(s.Einheiten.pVorgabe, static_cast<float>(s.Stoff.pKrit));
@@ -99,7 +92,6 @@ TEST_F(ProjektLadenTest, AProjectBringsBackItsDatabaseSubstanceAndModels) {
   ProjectState vergleich = Quelle();
   vergleich.Stoff.THO = {};
   KorrelierteParameter(vergleich, 8, vergleich.Stoff.TKrit, vergleich.Stoff.pKrit, vergleich.Stoff.TSiede);
-  EXPECT_NE(s.Stoff.THO[0], 0.0f);
   EXPECT_EQ(s.Stoff.THO, vergleich.Stoff.THO);
 }
 
@@ -123,15 +115,13 @@ TEST_F(ProjektLadenTest, ADatabasePathEndingInALetterLoadsNoDatabaseAndSaysNothi
   ASSERT_EQ(Laden(pfad), 0);
   EXPECT_EQ(kind, 0);
   EXPECT_TRUE(ui.protokoll.empty());
-  EXPECT_EQ(s.Datenbank.PfadQ07, "QUOR.Q07");
   EXPECT_EQ(s.Stoff.StoffName, "Ethanol");
 
   // Without one, only the substance is missed.
   s = Frisch();
   EXPECT_EQ(Laden(pfad), -1);
   EXPECT_FALSE(s.Datenbank.DatenbankGeladen);
-  ASSERT_EQ(ui.Meldungen().size(), 1u);
-  EXPECT_EQ(ui.Letzte().text, "CAS-Nr. 64-17-5 (Stoff nicht in aktueller Datenbank)");
+  ASSERT_EQ(ui.Meldungen().size(), 1u); // the substance's message, as below
 }
 
 TEST_F(ProjektLadenTest, AMissingDatabaseStopsTheLoadOnlyWhenNoneIsHeld) {
@@ -143,7 +133,6 @@ TEST_F(ProjektLadenTest, AMissingDatabaseStopsTheLoadOnlyWhenNoneIsHeld) {
   EXPECT_EQ(ui.Letzte().text, "Projekt-Datenbank FEHLT.Q07 im QUOR-Verzeichnis nicht gefunden");
   EXPECT_EQ(ui.Letzte().titel, "Ausführung nicht möglich");
   EXPECT_EQ(s.Modell.EOSIndex, -1);
-  EXPECT_FALSE(s.Projekt.Freigaben.Stoff);
 
   DatenbankLaden();
   ui.protokoll.clear();
@@ -152,7 +141,6 @@ TEST_F(ProjektLadenTest, AMissingDatabaseStopsTheLoadOnlyWhenNoneIsHeld) {
   EXPECT_EQ(ui.Letzte().text, "Datenbank FEHLT.Q07 im QUOR-Verzeichnis nicht gefunden bzw. leer.\r\n"
                               "Die aktuell geladene Bank wird weiter verwendet.");
   EXPECT_EQ(ui.Letzte().titel, "Hinweis");
-  EXPECT_EQ(s.Datenbank.PfadQ07, "QUOR.Q07");
   EXPECT_EQ(s.Modell.EOSIndex, 6);
 }
 
@@ -163,7 +151,6 @@ TEST_F(ProjektLadenTest, ASubstanceNotInTheDatabaseEndsTheLoadBeforeTheModels) {
   ASSERT_EQ(ui.Meldungen().size(), 1u);
   EXPECT_EQ(ui.Letzte().text, "CAS-Nr. 99999-99-9 (Stoff nicht in aktueller Datenbank)");
   EXPECT_TRUE(s.Datenbank.DatenbankGeladen); // the database was opened before the look-up
-  EXPECT_EQ(s.Stoff.StoffName, "");
   EXPECT_EQ(s.Modell.EOSIndex, -1);
   EXPECT_FALSE(s.Projekt.Freigaben.Stoff);
 }
@@ -178,9 +165,7 @@ TEST_F(ProjektLadenTest, ATruncatedFileLeavesThePartlyUpdatedState) {
   EXPECT_EQ(ui.Letzte().text, "Meldung von Sub ProjektLaden:\r\nEinlesen hinter Dateiende (Zeile 12)");
   EXPECT_EQ(ui.Letzte().titel, "Fehler bei ProjektLaden");
   EXPECT_EQ(s.Stoff.StoffName, "Ethanol"); // the substance came before the break
-  EXPECT_EQ(s.Modell.DampfdruckIndex, 8);
-  EXPECT_EQ(s.Modell.EOSIndex, 6);
-  EXPECT_EQ(s.Modell.CpIndex, 2); // not reached
+  EXPECT_EQ(std::tie(s.Modell.EOSIndex, s.Modell.CpIndex), std::make_tuple(6, 2)); // cp not reached
   EXPECT_FALSE(s.Projekt.Freigaben.Stoff);
 
   // A file that ends within its first three lines changes nothing at all.
@@ -188,7 +173,6 @@ TEST_F(ProjektLadenTest, ATruncatedFileLeavesThePartlyUpdatedState) {
   ui.protokoll.clear();
   EXPECT_EQ(Laden(Datei("QuorLastSession.QC6", "heute\r\n<>\r\n")), -1);
   EXPECT_FALSE(s.Projekt.LetzteSitzung);
-  EXPECT_EQ(s.Projekt.ProjektDatum, "");
   EXPECT_EQ(ui.Letzte().text, "Meldung von Sub ProjektLaden:\r\nEinlesen hinter Dateiende (Zeile 3)");
 }
 
@@ -216,21 +200,23 @@ TEST_F(ProjektLadenTest, ThePreviewShowsTheHeadWithTheSubstanceOfTheOpenDatabase
 
 TEST_F(ProjektLadenTest, ThePreviewRefusesNonProjectsAndOldDatabases) {
   std::string text = "alt";
-  EXPECT_FALSE(ProjektVorschau(s, Datei("notiz.txt", "Hallo\r\n"), text, ui));
-  EXPECT_EQ(text, "");
-  EXPECT_EQ(ui.Letzte().text, "Es werden nur *.QC6-Projekte unterstützt");
+  for (const std::string& pfad :
+       {Datei("notiz.txt", "Hallo\r\n"), Datei("kaputt.QC6", "a\r\nb\r\nc\r\nd\r\nkeine Zahl\r\n")}) {
+    EXPECT_FALSE(ProjektVorschau(s, pfad, text, ui));
+    EXPECT_EQ(text, "");
+    EXPECT_EQ(ui.Letzte().text, "Es werden nur *.QC6-Projekte unterstützt");
+  }
   EXPECT_EQ(ui.Letzte().titel, "Ausführung nicht möglich");
-  EXPECT_FALSE(ProjektVorschau(s, Datei("kaputt.QC6", "a\r\nb\r\nc\r\nd\r\nkeine Zahl\r\n"), text, ui));
-  EXPECT_EQ(ui.Letzte().text, "Es werden nur *.QC6-Projekte unterstützt");
 
-  EXPECT_FALSE(ProjektVorschau(s, Datei("ALT.Q05", "x"), text, ui));
-  EXPECT_EQ(ui.Letzte().text, "Datenbanken *.Q04 oder *.Q05 werden nicht mehr unterstützt");
+  // An old database named by the file or inside a project: one message each time.
   std::string alt = ProjektText(Quelle(), "heute");
   alt.replace(alt.find("QUOR.Q07"), 8, "QUOR.q04");
-  ui.protokoll.clear();
-  EXPECT_FALSE(ProjektVorschau(s, Datei("alt.QC6", alt), text, ui));
-  EXPECT_EQ(ui.Letzte().text, "Datenbanken *.Q04 oder *.Q05 werden nicht mehr unterstützt");
-  EXPECT_EQ(ui.protokoll.size(), 1u);
+  for (const std::string& pfad : {Datei("ALT.Q05", "x"), Datei("alt.QC6", alt)}) {
+    ui.protokoll.clear();
+    EXPECT_FALSE(ProjektVorschau(s, pfad, text, ui));
+    ASSERT_EQ(ui.protokoll.size(), 1u);
+    EXPECT_EQ(ui.Letzte().text, "Datenbanken *.Q04 oder *.Q05 werden nicht mehr unterstützt");
+  }
 }
 
 } // namespace
