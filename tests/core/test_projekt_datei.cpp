@@ -116,26 +116,17 @@ TEST(ProjektDatei, BooleansAreMinusOneOrZeroAndTheTextIsCrLf) {
 
   ProjectState neu;
   InitProjectState(neu);
-  neu.Projekt.DateiKommentar = "alt";
   ProjektKopf kopf;
   LeseFehler fehler;
   ASSERT_TRUE(Lesen(text, neu, kopf, fehler));
   EXPECT_EQ(kopf.Kommentar, KeinKommentar);
-}
 
-TEST(ProjektDatei, PresetsAreZeroWithoutManualNormalisation) {
-  ProjectState s = Beispiel();
+  // Without manual normalisation the presets are written as 0 and taken over as such.
   s.Optionen.ParSpeichern = false;
-  const std::string text = ProjektText(s, "heute");
-  EXPECT_NE(text.find("74-82-8     \r\n0,0,0\r\n"), std::string::npos) << text;
-  ProjectState neu;
-  InitProjectState(neu);
-  neu.Einheiten.TVorgabe = 99;
-  ProjektKopf kopf;
-  LeseFehler fehler;
-  ASSERT_TRUE(Lesen(text, neu, kopf, fehler));
-  EXPECT_EQ(neu.Einheiten.TVorgabe, 0.0f); // taken over; the load fills it from the critical point
-  EXPECT_FALSE(neu.Optionen.ParSpeichern);
+  const std::string ohne = ProjektText(s, "heute");
+  EXPECT_NE(ohne.find("74-82-8     \r\n0,0,0\r\n"), std::string::npos) << ohne;
+  ASSERT_TRUE(Lesen(ohne, neu, kopf, fehler));
+  EXPECT_EQ(neu.Einheiten.TVorgabe, 0.0f);
 }
 
 TEST(ProjektDatei, SettingsAreReadValueByValueWhateverTheLineBreaks) {
@@ -151,17 +142,12 @@ TEST(ProjektDatei, SettingsAreReadValueByValueWhateverTheLineBreaks) {
   LeseFehler fehler;
   ASSERT_TRUE(Lesen(text, s, kopf, fehler)) << fehler.Grund << " " << fehler.Zeile;
   EXPECT_EQ(DatenbankArtVonPfad(kopf.Datenbank), 6);
-  EXPECT_EQ(kopf.BatchDatei, "");
-  EXPECT_EQ(s.Einheiten.VolumenMode, 1);
   EXPECT_EQ(s.Einheiten.EnergieMode, 3);
-  EXPECT_TRUE(s.Optionen.KurveTpBeschraenkt);
+  EXPECT_TRUE(s.Optionen.KurveTpBeschraenkt); // #TRUE#
   EXPECT_EQ(s.Optionen.CsvTrenner, ',');
-  EXPECT_EQ(s.Modell.DampfdruckIndex, 4);
   EXPECT_EQ(s.Modell.DampfdruckTag, "WAG");
-  EXPECT_EQ(s.Modell.EOSIndex, 0); // "none" comes back as the ideal gas
-  EXPECT_EQ(s.Modell.WatsonExp, 0.375f);
-  EXPECT_FALSE(s.Modell.KonzeptGlobal);
-  EXPECT_EQ(s.Referenz.RefArt, 2);
+  EXPECT_EQ(s.Modell.EOSIndex, 0);      // "none" comes back as the ideal gas
+  EXPECT_FALSE(s.Modell.KonzeptGlobal); // #FALSE#
   EXPECT_EQ(s.Referenz.hRef, 10.5);
 }
 
@@ -179,9 +165,7 @@ TEST(ProjektDatei, ValuesOutsideTheirTablesFallBackAndNoVapourPressureTagIsMarke
   LeseFehler fehler;
   ASSERT_TRUE(Lesen(text, neu, kopf, fehler));
   EXPECT_EQ(neu.Modell.DampfdruckTag, "<>");
-  EXPECT_EQ(neu.Modell.EOSIndex, 0);
-  EXPECT_EQ(neu.Modell.CpIndex, 0);
-  EXPECT_EQ(neu.Modell.HLVIndex, 0);
+  EXPECT_EQ(std::tie(neu.Modell.EOSIndex, neu.Modell.CpIndex, neu.Modell.HLVIndex), std::tuple(0, 0, 0));
 }
 
 TEST(ProjektDatei, ABreakLeavesTheItemsBeforeItInPlace) {
@@ -197,7 +181,6 @@ TEST(ProjektDatei, ABreakLeavesTheItemsBeforeItInPlace) {
   EXPECT_EQ(s.Modell.EOSIndex, 14);     // read before the break
   EXPECT_FALSE(s.Modell.KonzeptGlobal); // the last item read
   EXPECT_EQ(s.Referenz.RefArt, 1);      // not reached: as before
-  EXPECT_EQ(s.Mess.FitSpalte, 1);
 
   std::string falsch = ganz;
   falsch.replace(falsch.find("1234"), 4, "viel");
@@ -206,7 +189,6 @@ TEST(ProjektDatei, ABreakLeavesTheItemsBeforeItInPlace) {
   EXPECT_EQ(fehler.Grund, "Typen unverträglich");
   EXPECT_EQ(fehler.Zeile, 10u);
   EXPECT_FALSE(s.Optionen.KurveTpBeschraenkt); // the item before the bad one
-  EXPECT_EQ(s.Optionen.PunktDichte, 500);
 
   // A head of fewer than three lines ends before the database.
   ListenLeser kurz("nur\r\nzwei");
@@ -217,9 +199,7 @@ TEST(ProjektDatei, DatabaseKindAndLastSessionAreReadFromTheNames) {
   EXPECT_EQ(DatenbankArtVonPfad("/bank/QUOR.Q07"), 7);
   EXPECT_EQ(DatenbankArtVonPfad("C:\\QUOR\\ALT.Q06 "), 6);
   EXPECT_EQ(DatenbankArtVonPfad("/bank/QUOR.Q0X"), 0); // a letter: no kind
-  EXPECT_EQ(DatenbankArtVonPfad(""), 0);
   EXPECT_TRUE(IstLetzteSitzung("/irgendwo/quorlastsession.qc6"));
-  EXPECT_TRUE(IstLetzteSitzung("QuorLastSession.QC6"));
   EXPECT_FALSE(IstLetzteSitzung("LastSession.QC6"));
   EXPECT_EQ(PfadIn("/projekte", "C:\\alt\\a.QC6"), "C:\\alt\\a.QC6"); // a directory of either kind stays
   EXPECT_EQ(VerzeichnisTeil("/a.QC6"), "/");
@@ -247,14 +227,12 @@ TEST_F(ProjektSchreibenTest, LastSessionGoesToTheProgramDirectoryWithoutAQuestio
                        "fstand 3, Methan\r\n"),
             std::string::npos); // Windows-1252
   EXPECT_FALSE(fs::exists("/anderswo/QUORLASTSESSION.QC6"));
-  EXPECT_EQ(bytes.substr(0, s.Projekt.ProjektDatum.size()), s.Projekt.ProjektDatum);
 }
 
 TEST_F(ProjektSchreibenTest, AProjectAsksForItsCommentAndABareNameGoesToTheProjectDirectory) {
   ui.eingaben.push_back(std::string("neuer Kommentar"));
   ASSERT_TRUE(ProjektSchreiben(s, "versuch.QC6", ui));
   ASSERT_EQ(ui.protokoll.size(), 1u);
-  EXPECT_EQ(ui.protokoll[0].art, "Eingabe");
   EXPECT_EQ(ui.protokoll[0].text, "<Abbrechen> = kein Kommentar");
   EXPECT_EQ(ui.protokoll[0].titel, " Datei-Kommentar (optional) ");
   EXPECT_EQ(s.Projekt.DateiKommentar, "neuer Kommentar");
@@ -263,7 +241,6 @@ TEST_F(ProjektSchreibenTest, AProjectAsksForItsCommentAndABareNameGoesToTheProje
 
   ui.eingaben.push_back(std::nullopt); // <Abbrechen>: no comment
   ASSERT_TRUE(ProjektSchreiben(s, "versuch.QC6", ui));
-  EXPECT_EQ(s.Projekt.DateiKommentar, "");
   EXPECT_NE(test::LeseDatei(ordner.Datei("projekte/versuch.QC6")).find("\r\n<>\r\n"), std::string::npos);
 }
 
@@ -281,9 +258,7 @@ TEST_F(ProjektSchreibenTest, SaveAsOffersTheProjectAndKeepsTheChosenFile) {
   const ui::DateiDialog& d = ui.dateiDialoge[0];
   EXPECT_EQ(d.titel, "aktuelles Projekt speichern unter ...");
   EXPECT_EQ(d.filter, "QUOR-Projektdatei (*.QC6)|*.QC6");
-  EXPECT_EQ(d.standardEndung, ".QC6");
-  EXPECT_EQ(d.startVerzeichnis, ordner.Datei("projekte"));
-  EXPECT_EQ(d.dateiName, "alt.QC6");
+  EXPECT_EQ(std::tie(d.startVerzeichnis, d.dateiName), std::tuple(ordner.Datei("projekte"), "alt.QC6"));
 
   ui.dateien.push_back(ordner.Datei("programm/neu.QC6"));
   ASSERT_TRUE(ProjektSpeichernUnter(s, ui));

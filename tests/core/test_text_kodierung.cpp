@@ -34,7 +34,6 @@ TEST(TextKodierung, EveryByteMapsAndComesBack) {
 
 TEST(TextKodierung, WhatWindows1252CannotHoldBecomesQuestionMark) {
   EXPECT_EQ(Utf8ZuWin1252("T = 中 K"), "T = ? K");
-  EXPECT_EQ(Utf8ZuWin1252("😀Ω"), "??");
   EXPECT_EQ(Utf8ZuWin1252("\xC2\x80"), "?");    // U+0080: its byte 0x80 is the euro sign
   EXPECT_EQ(Utf8ZuWin1252("\xC2\x81"), "\x81"); // a C1 control that has a byte of its own
 }
@@ -67,9 +66,7 @@ TEST(TextKodierung, FileTextIsUtf8OrElseWindows1252) {
   EXPECT_EQ(DateitextZuUtf8("\xEF\xBB\xBF"
                             "M\xC3\xBCller"),
             "Müller");
-  EXPECT_EQ(DateitextZuUtf8("M\xC3\xBCller"), "Müller");
   EXPECT_EQ(DateitextZuUtf8("M\xFCller"), "Müller");
-  EXPECT_EQ(DateitextZuUtf8("\xEF\xBB\xBF"), "");
   EXPECT_EQ(DateitextZuUtf8("\xEF\xBB\xBF"
                             "\xB0"
                             "C"),

@@ -24,78 +24,25 @@ template <std::size_t N> void PruefeTabelle(const Fall (&faelle)[N]) {
     EXPECT_EQ(FormatVB(f.wert, f.muster), f.erwartet) << "Format(" << f.wert << ", \"" << f.muster << "\")";
 }
 
-TEST(FormatVB, FixedPatternsWithUnitText) {
+// One row per rule of the patterns; the comment names the rule or quirk the row hinges on.
+TEST(FormatVB, PatternRules) {
   const Fall faelle[] = {
       {0.5, "###0.000 K", "0.500 K"},              // the '0' before the point forces the leading zero
       {12345.6789, "###0.000 K", "12345.679 K"},   // surplus integer digits are all shown
-      {-12.3456, "###0.000 K", "-12.346 K"},       // one section: automatic minus in front
       {101.325, "######0.000 kPa", "101.325 kPa"}, // '#' never pads with blanks
       {0.25, "#####.00 kPa", ".25 kPa"},           // no '0' before the point: no leading zero
-      {4599.5, "#####0 kPa", "4600 kPa"},          // exact half rounds up
       {190.565, "####0.00 K", "190.57 K"},         // decimal form 190.565, although the binary is below
       {273.1, "###0.0# K", "273.1 K"},             // trailing optional zero dropped
       {273.0, "###0.0# K", "273.0 K"},             // the '0' place stays
-  };
-  PruefeTabelle(faelle);
-}
-
-TEST(FormatVB, OptionalDigitsAndTheDecimalPointQuirk) {
-  const Fall faelle[] = {
-      {3.0, "####.##", "3."},         // Basic keeps the point when no decimal digit remains
-      {0.0, "####.##", "."},          // nothing significant, the point alone stays
-      {999.999, "##0.00", "1000.00"}, // the carry adds an integer digit
-      {99.995, "##0.0#", "100.0"},    // carry, then the optional zero is dropped
-      {0.0, "#", ""},                 // Basic writes nothing for zero with '#' only
-      {5.0, "0#", "05"},              // padding starts at the leftmost '0'
-  };
-  PruefeTabelle(faelle);
-}
-
-TEST(FormatVB, RoundsHalfAwayFromZeroOnTheFifteenDigitDecimalValue) {
-  // Each row is a case where printf rounding of the binary value gives a different last digit.
-  const Fall faelle[] = {
-      {2.675, "0.00", "2.68"}, // binary 2.67499999..., decimal form 2.675
-      {0.125, "0.00", "0.13"}, // exact half, printf would round to even
-      {-2.5, "0", "-3"},
-  };
-  PruefeTabelle(faelle);
-}
-
-TEST(FormatVB, NegativeValueRoundingToZeroKeepsItsSign) {
-  const Fall faelle[] = {
-      {-0.0004, "###0.000 kPa", "-0.000 kPa"}, {-0.0, "0.00", "0.00"}, // negative zero is zero
-  };
-  PruefeTabelle(faelle);
-}
-
-TEST(FormatVB, ExponentPatterns) {
-  const Fall faelle[] = {
-      {-0.00123456, "0.0000E+00", "-1.2346E-03"},
-      {0.000123445, "0.0000E+00", "1.2345E-04"}, // half on the decimal form rounds up
-      {9.99996, "0.0000E+00", "1.0000E+01"},     // the mantissa carry moves the exponent
-      {1234.5, ".0000000E+00", ".1234500E+04"},  // no placeholder before the point: [0.1, 1)
-      {0.99999999, ".0000000E+00", ".1000000E+01"},
-      {1234.5, "0.00E-00", "1.23E03"}, // "E-" writes only a minus
-      {1234.5, "0.00e+00", "1.23e+03"},
-      {1234.5, "00.00E+00", "12.35E+02"},  // two integer digits in the mantissa
-      {1.5e7, "0.0E+000 K", "1.5E+007 K"}, // text after the exponent stays text
-  };
-  PruefeTabelle(faelle);
-}
-
-TEST(FormatVB, SectionsForNegativeAndZero) {
-  const Fall faelle[] = {
-      {-1234.5678, " 0.0000E+00;-0.0000E+00", "-1.2346E+03"}, // the section's own '-', no automatic one
-      {0.0, " 0.0000E+00;-0.0000E+00", " 0.0000E+00"},        // no zero section: the first one
-      {0.0, "0.00;(0.00);\"null\"", "null"},
-      {-5.0, "0.00;;\"null\"", "-5.00"}, // empty negative section: the first one
-      {-5.0, "0.0\";\"", "-5.0;"},       // a quoted ';' separates nothing
-  };
-  PruefeTabelle(faelle);
-}
-
-TEST(FormatVB, LiteralTextAndSpecialCharacters) {
-  const Fall faelle[] = {
+      {3.0, "####.##", "3."},                      // Basic keeps the point when no decimal digit remains
+      {99.995, "##0.0#", "100.0"},                 // carry, then the optional zero is dropped
+      {0.0, "#", ""},                              // Basic writes nothing for zero with '#' only
+      {5.0, "0#", "05"},                           // padding starts at the leftmost '0'
+      {2.675, "0.00", "2.68"},                     // binary 2.67499999..., decimal form 2.675
+      {0.125, "0.00", "0.13"},                     // exact half away from zero, printf would round to even
+      {-2.5, "0", "-3"},                           // one section: automatic minus in front
+      {-0.0004, "###0.000 kPa", "-0.000 kPa"},     // a negative value rounding to zero keeps its sign
+      {-0.0, "0.00", "0.00"},                      // negative zero is zero
       {1.5, "\"T = \"0.0", "T = 1.5"},
       {1.5, "0.0\\#", "1.5#"},
       {0.256, "0.0%", "25.6%"},
@@ -108,10 +55,27 @@ TEST(FormatVB, LiteralTextAndSpecialCharacters) {
   PruefeTabelle(faelle);
 }
 
+TEST(FormatVB, ExponentPatternsAndSections) {
+  const Fall faelle[] = {
+      {0.000123445, "0.0000E+00", "1.2345E-04"}, // half on the decimal form rounds up
+      {9.99996, "0.0000E+00", "1.0000E+01"},     // the mantissa carry moves the exponent
+      {1234.5, ".0000000E+00", ".1234500E+04"},  // no placeholder before the point: [0.1, 1)
+      {1234.5, "0.00E-00", "1.23E03"},           // "E-" writes only a minus
+      {1234.5, "0.00e+00", "1.23e+03"},
+      {1234.5, "00.00E+00", "12.35E+02"},                     // two integer digits in the mantissa
+      {1.5e7, "0.0E+000 K", "1.5E+007 K"},                    // text after the exponent stays text
+      {-1234.5678, " 0.0000E+00;-0.0000E+00", "-1.2346E+03"}, // the section's own '-', no automatic one
+      {0.0, " 0.0000E+00;-0.0000E+00", " 0.0000E+00"},        // no zero section: the first one
+      {0.0, "0.00;(0.00);\"null\"", "null"},
+      {-5.0, "0.00;;\"null\"", "-5.00"}, // empty negative section: the first one
+      {-5.0, "0.0\";\"", "-5.0;"},       // a quoted ';' separates nothing
+  };
+  PruefeTabelle(faelle);
+}
+
 TEST(FormatVB, ExtremeMagnitudes) {
   const Fall faelle[] = {
       {1.234567890123456789e20, "0", "123456789012346000000"}, // 15 digits, then zeros
-      {-1e-300, "0.000", "-0.000"},
       {1e-300, ".00000000E+00", ".10000000E-299"},
       {5e-324, "0.0E+00", "4.9E-324"},
   };
@@ -145,11 +109,9 @@ TEST(SingleText, SevenSignificantDigitsAndExponentWhereNeeded) {
   EXPECT_EQ(SingleText(1e-37f), "1E-37"); // the editor's marker for a present zero
   EXPECT_EQ(SingleText(12345678.0f), "1.234568E+07");
   EXPECT_EQ(SingleText(1234567.0f), "1234567"); // seven digits still fixed
-  EXPECT_EQ(SingleText(-0.0f), "0");
-  EXPECT_EQ(SingleText(0.0001f), "0.0001"); // exponent -4 still fixed
+  EXPECT_EQ(SingleText(0.0001f), "0.0001");     // exponent -4 still fixed
   EXPECT_EQ(SingleText(0.00001f), "1E-05");
   EXPECT_EQ(SingleText(101.325f), "101.325"); // float 101.32499695 rounds back to 7 digits
-  EXPECT_EQ(SingleText(std::numeric_limits<float>::denorm_min()), "1.401298E-45");
   EXPECT_EQ(SingleText(-std::numeric_limits<float>::infinity()), "-Inf");
 }
 
@@ -163,7 +125,6 @@ TEST(SingleText, ReadsBackWithinSinglePrecision) {
 
 TEST(DoubleText, FifteenSignificantDigits) {
   EXPECT_EQ(DoubleText(0.1 + 0.2), "0.3");
-  EXPECT_EQ(DoubleText(123456789012345.0), "123456789012345");
   EXPECT_EQ(DoubleText(1e15), "1E+15");
   EXPECT_EQ(DoubleText(2.5e-7), "2.5E-07");
   EXPECT_EQ(DoubleText(-0.0), "0");
