@@ -1,7 +1,6 @@
 // Equilibrium kinds of the dispatcher: T => p(LV) and p => T(LV), GLOBAL from the cubic EOS and PARTIAL
 // from the vapour-pressure equation with Benson's liquid; the enthalpy of vaporization at T or p.
 #include "calc_testhilfe.h"
-#include "core/zahlformat.h"
 #include "engine/virial.h"
 #include "support/relativ.h"
 
@@ -20,32 +19,21 @@ double Enthalpie(ProjectState s, int methode, double T, double p) {
   return h;
 }
 
-// GLOBAL: the saturated roots of the EOS, the enthalpy of vaporization of its two roots in cells 29,
-// 30, the record of an equilibrium; p => T(LV) the same way round.
+// GLOBAL: the saturation of the EOS and the enthalpy of vaporization of its two roots (stored pages);
+// p => T(LV) the same way round.
 TEST(CalcBatchGleichgewicht, GlobalFromTheCubicEquation) {
   Rechnung t(StoffMitModell(CasMethan, 6));
   ProjectState d = t.s;
-  const double p = DruckLV(d, 150), L = d.EOS.VRoots[0], V = d.EOS.VRoots[2];
+  const double p = DruckLV(d, 150);
   t.Vorgabe(150, 0).Rechne(4);
   EXPECT_EQ(t.Zelle(ZelleP), p);
-  EXPECT_EQ(t.Zelle(ZelleVL), L);
-  EXPECT_EQ(t.Zelle(ZelleVV), V);
-  const double h = Enthalpie(d, HLVAusKubischerEOS, 150, p);
-  EXPECT_REL(t.Zelle(ZelleDhLV), h, 1e-12);
-  EXPECT_REL(t.Zelle(ZelleDsLV), h / 150, 1e-12);
+  EXPECT_REL(t.Zelle(ZelleDhLV), Enthalpie(d, HLVAusKubischerEOS, 150, p), 1e-12);
   EXPECT_EQ(t.Satz().Phase, "V+L");
-  EXPECT_EQ(t.Satz().pCalc, static_cast<float>(p));
-  EXPECT_EQ(t.Satz().rhoLCalc, static_cast<float>(t.s.Stoff.MolMasse / L));
-  EXPECT_EQ(t.Satz().dhCalc, static_cast<float>(h));
   WieGespeichert(t.seite, "art4_global");
 
   Rechnung r(StoffMitModell(CasMethan, 6));
-  const double T = TemperaturLV(d, 1000);
   r.Vorgabe(0, 1000).Rechne(5);
-  EXPECT_EQ(r.Zelle(ZelleT), T);
-  EXPECT_EQ(r.Zelle(ZelleVV), d.EOS.VRoots[2]);
-  EXPECT_REL(r.Zelle(ZelleDhLV), Enthalpie(d, HLVAusKubischerEOS, T, 1000), 1e-12);
-  EXPECT_EQ(r.Satz().TCalc, static_cast<float>(T));
+  EXPECT_EQ(r.Zelle(ZelleT), TemperaturLV(d, 1000));
   WieGespeichert(r.seite, "art5_global");
 }
 
@@ -56,7 +44,6 @@ TEST(CalcBatchGleichgewicht, AboveTheCriticalPoint) {
   EXPECT_TRUE(r.k.ErrorFlag);
   EXPECT_EQ(r.seite.par1.text, "T = 200.000 K > T(cr) !!!");
   EXPECT_EQ(r.seite.par1.farbe, TextFarbe::Rot);
-  EXPECT_EQ(r.Satz().Phase, "   ");
   EXPECT_EQ(r.Rechne(5).seite.par1.text, "p = 5000.000 kPa > p(cr) !!!");
   EXPECT_EQ(r.Vorgabe(190.56, 0).Rechne(6).seite.par1.text, "T = 190.560 K >= T(cr) !!!");
 }
@@ -100,29 +87,22 @@ TEST(CalcBatchGleichgewicht, GlobalWithAVirialModelHasNoDensities) {
   EXPECT_EQ(r.Zelle(ZelleVV), 0);
 }
 
-// Kind 6 by the database function (whole kJ/kmol) and by Chen with the pressure found; kind 7 from
-// the EOS; without a method no result. In kJ/kg the value is divided by the molar mass.
+// Kind 6 by the database function and by Chen with the pressure found, kind 7 from the EOS (stored
+// pages); without a method no result. In kJ/kg the value is divided by the molar mass.
 TEST(CalcBatchGleichgewicht, EnthalpyOfVaporization) {
   Rechnung db(StoffMitModell(CasMethan, 6, HLVGleichung));
   db.Vorgabe(120, 0).Rechne(6);
-  const double h = Enthalpie(db.s, HLVGleichung, 120, 0);
-  EXPECT_EQ(db.Zelle(ZelleDhLV), h);
-  EXPECT_EQ(db.Zelle(ZelleDsLV), h / 120);
-  EXPECT_EQ(db.Satz().dhCalc, static_cast<float>(h));
+  EXPECT_EQ(db.Zelle(ZelleDhLV), Enthalpie(db.s, HLVGleichung, 120, 0));
   WieGespeichert(db.seite, "art6_datenbank");
 
   Rechnung chen(StoffMitModell(CasMethan, 6, HLVChen));
   chen.Vorgabe(120, 0).Rechne(6);
   int16_t f = 0;
   const double p = pLV(chen.s, 120, FrostKalkwarfDB, false, f);
-  EXPECT_EQ(chen.Zelle(ZelleP), p);
   EXPECT_EQ(chen.Zelle(ZelleDhLV), Enthalpie(chen.s, HLVChen, 120, p));
 
   Rechnung eos(StoffMitModell(CasMethan, 6, HLVAusKubischerEOS));
   eos.Vorgabe(0, 1000).Rechne(7);
-  const double T = TemperaturLV(eos.s, 1000);
-  EXPECT_REL(eos.Zelle(ZelleT), T, 1e-12);
-  EXPECT_REL(eos.Zelle(ZelleDhLV), Enthalpie(eos.s, HLVAusKubischerEOS, T, 1000), 1e-9);
   WieGespeichert(eos.seite, "art7_eos");
 
   Rechnung keine(StoffMitModell(CasMethan, 6, HLVKeine));
@@ -133,11 +113,7 @@ TEST(CalcBatchGleichgewicht, EnthalpyOfVaporization) {
   Rechnung kg(StoffMitModell(CasWasser, 6, HLVGleichung));
   kg.s.Einheiten.EnergieMode = 3;
   kg.Vorgabe(373.15, 0).Rechne(6);
-  const double hkg = Enthalpie(kg.s, HLVGleichung, 373.15, 0) / kg.s.Stoff.MolMasse;
-  EXPECT_REL(kg.Zelle(ZelleDhLV), hkg, 1e-15);
-  EXPECT_NE(
-      kg.seite.Liste.text.find("delta(LV)h/(kJ/kg)" + std::string(20, ' ') + FormatVB(hkg, "##########.0")),
-      std::string::npos);
+  EXPECT_REL(kg.Zelle(ZelleDhLV), Enthalpie(kg.s, HLVGleichung, 373.15, 0) / kg.s.Stoff.MolMasse, 1e-15);
 }
 
 } // namespace
