@@ -24,9 +24,7 @@ double Temperatur(ProjectState& s, double p, double v, double T) {
   return T;
 }
 
-// Central differences with steps of 1e-5 (first derivatives) and 3e-5 to 1e-4 (second) of T or v:
-// truncation stays near 1e-7 even on the steep liquid branch next to the critical point, and the
-// polished roots keep rounding far below that.
+// Central differences with relative steps 1e-5 (first derivatives) and 3e-5 to 1e-4 (second).
 void PruefeGegenDifferenzen(ProjectState& s, double T, double p, bool dampf) {
   const double v = Volumen(s, T, p, dampf);
   const PhiErgebnis e = Phi(s, T, p, v);
@@ -77,9 +75,9 @@ TEST(AbleitungenPTV, VirialRowsMatchDifferencesOfTheEquation) {
   }
 }
 
-// van der Waals: d2p/dV2 = 0 where R T v^4 = 3a (v-b)^3. At TKrit the critical volume 3b is the first
-// inflection point; the right-hand side peaks at v = 4b with 81a/(256b) = 1.0679 R TKrit, so above
-// that temperature there is none. For the other rows d2p/dV2 is checked by differences.
+// van der Waals: d2p/dV2 = 0 where R T v^4 = 3a (v-b)^3, whose right-hand side peaks at v = 4b with
+// 81a/(256b) = 1.0679 R TKrit: at TKrit the critical volume is the first root, above 1.0679 TKrit
+// there is none. For every cubic row d2p/dV2 vanishes there by differences.
 TEST(WendepunkteSuchen, InflectionPointsOfTheIsotherm) {
   ProjectState s = ZustandMit(Methan, 2);
   Wendepunkte wp;
@@ -88,9 +86,6 @@ TEST(WendepunkteSuchen, InflectionPointsOfTheIsotherm) {
   ASSERT_EQ(err, 0);
   EXPECT_REL(wp.v[0], s.EOS.vKritEOS, 1e-9);
   EXPECT_REL(wp.p[0], Methan.pKrit, 1e-8);
-  const double b = s.EOS.bT, a = s.EOS.aT, v2 = wp.v[1];
-  EXPECT_GT(v2, 4 * b);
-  EXPECT_REL(RGas * Methan.TKrit * std::pow(v2, 4), 3 * a * std::pow(v2 - b, 3), 1e-9);
   WendepunkteSuchen(s, 1.06 * Methan.TKrit, wp, err);
   EXPECT_EQ(err, 0);
   WendepunkteSuchen(s, 1.2 * Methan.TKrit, wp, err);
@@ -112,9 +107,8 @@ TEST(WendepunkteSuchen, InflectionPointsOfTheIsotherm) {
   }
 }
 
-// Central differences with h = 1e-4*T: truncation about 1e-8 relative, rounding far below. A
-// derivative is compared within 1e-6 of the larger of its value and the scale of the quantity
-// over T (or T^2): the derivatives of a constant are 0, where a pure relative test means nothing.
+// Central differences with h = 1e-4*T, compared within 1e-6 of the larger of the derivative and the
+// quantity over T (or T^2): the derivatives of a constant are 0.
 void PruefeAbleitungen(ProjectState& s, double T) {
   const double h = 1e-4 * T;
   std::array<std::array<double, 5>, 3> w{}; // a, b, c, d, a/(R*T) at T - h, T, T + h

@@ -14,9 +14,8 @@ namespace {
 
 using namespace quor::test;
 
-// At TKrit and pKrit the cubic has a triple root at vKritEOS (for Peng/Robinson the table's
-// rounded z = 0.3074 against the exact 0.307401). Near a triple root the cubic is flat to the cube
-// root of the rounding (about 5e-6), so that is all the Newton root can attain.
+// At TKrit and pKrit the cubic has a triple root at vKritEOS, attainable only to the cube root of
+// the rounding (about 5e-6).
 TEST(EOSParameter, RootsMeetAtTheCriticalVolumeForEveryCubicRow) {
   for (const StoffDaten& stoff : {Methan, Wasser, Eikosan}) {
     for (int16_t index : KubischeZeilen) {
@@ -124,8 +123,6 @@ TEST(ParameterEOSText, LinesOfEachKindOfModel) {
                            "\r\na1 = 0.3921867\r\nb = b0 = ";
   const std::string text = ParameterEOSText(s);
   EXPECT_EQ(text.substr(0, kopf.size()), kopf);
-  EXPECT_NE(text.find("\r\nkrit. Volumen aus T(cr) und p(cr) berechnet:\r\n    v(cr, molar)/m^3/kmol = "),
-            std::string::npos);
   EXPECT_NE(text.find("\r\n  (entspr. rho(cr)/kg/m^3 = " +
                       SingleText(static_cast<float>(Methan.MolMasse / s.EOS.vKritEOS)) + ")"),
             std::string::npos);
@@ -141,8 +138,6 @@ TEST(ParameterEOSText, LinesOfEachKindOfModel) {
   EXPECT_NE(ParameterEOSText(s).find("  (die Parameter b, c und d sind T-unabhängig)"), std::string::npos);
   s = ZustandMit(Methan, 0);
   EXPECT_EQ(ParameterEOSText(s), "Idealgasgleichung eingestellt");
-  s = ZustandMit(Methan, 16);
-  EXPECT_EQ(ParameterEOSText(s).substr(0, 37), "Parameter der PITZER/CURL-Gleichung\r\n");
 }
 
 } // namespace

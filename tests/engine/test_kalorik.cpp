@@ -1,6 +1,5 @@
-// Residual and caloric functions against independent routes: ln phi and the residual h, s as
-// integrals of the EOS along the isotherm, temperature derivatives against differences, cp, cv and
-// the speed of sound against their definitions, the ideal gas, the exergies and saturation.
+// Residual and caloric functions against independent routes: integrals of the EOS along the
+// isotherm, differences, definitions, the ideal gas, the exergies and saturation.
 #include "engine/kubisch.h"
 #include "kalorik_hilfen.h"
 #include "support/relativ.h"
@@ -161,10 +160,8 @@ TEST(ThermoFunktionen, ExergiesVanishAtTheEnvironmentState) {
   }
 }
 
-// The saturated phases have equal g: the areas of the loop give g(V) - g(L) = -(A + B), and the
-// saturation solver's tolerance bounds that by 1e-5 (A - B). The roots of the state solver carry a
-// relative error near 1e-8 on the steep liquid branch, which g feels and the areas do not: 1e-6 R T
-// covers it.
+// The saturated phases have equal g: g(V) - g(L) = -(A + B), bounded by the solver's 1e-5 (A - B);
+// 1e-6 R T covers the roots' error on the steep liquid branch.
 TEST(SaettigungsFunktionen, SaturatedPhasesHaveEqualFreeEnthalpy) {
   for (const StoffDaten& stoff : {Methan, Wasser, Eikosan}) {
     for (int16_t index : KubischeZeilen) {

@@ -1,6 +1,5 @@
-// Enthalpy of vaporization from states of the EOS: the difference of the residual enthalpies of the
-// saturated roots against Clausius-Clapeyron with the EOS's own saturation curve, and the route
-// through the slope of the vapour-pressure equation with the compressibility factors.
+// Enthalpy of vaporization from states of the EOS against Clausius-Clapeyron, and the route through
+// the slope of the vapour-pressure equation with the compressibility factors.
 #include "engine/korrelationen.h"
 #include "engine/kubisch.h"
 #include "kalorik_hilfen.h"
