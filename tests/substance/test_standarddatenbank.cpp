@@ -10,6 +10,7 @@
 
 #include <cmath>
 #include <set>
+#include <tuple>
 
 namespace quor {
 namespace {
@@ -23,63 +24,39 @@ double Abweichung(ProjectState& s, int index, double T, double p) {
   return failed != 0 ? INFINITY : std::fabs(ist / p - 1);
 }
 
-TEST(Standarddatenbank, OpensWithAllItsSubstances) {
+// Every record loads with a unique system number. Some stored curves miss 1 atm at the stored
+// boiling point by more than 3 %: the source's curve and boiling point disagree (long alkanes, acids
+// and nitro compounds that decompose, substances that sublime, curves cut where they drift). The data
+// are kept as they are; their number stays bounded.
+TEST(Standarddatenbank, OpensAndTheDefaultEquationsPassTheNormalBoilingPoint) {
   ProjectState s = MitStandardDatenbank();
   ASSERT_EQ(s.Datenbank.StoffAnzahl, 430);
-  EXPECT_EQ(s.Datenbank.NamenListe[1], "Methan");
-  EXPECT_EQ(s.Datenbank.CASListe[1], "74-82-8");
   std::set<int> nummern;
+  int mitSiedepunkt = 0, daneben = 0;
   for (int k = 1; k <= s.Datenbank.StoffAnzahl; ++k) {
     int16_t failed = 0;
     LadeStoff(s, k, failed);
     EXPECT_EQ(failed, 0) << s.Stoff.StoffName;
     nummern.insert(s.Stoff.MDBNr);
+    if (s.Stoff.TSiede <= 1e-6f) continue;
+    ++mitSiedepunkt;
+    if (!(Abweichung(s, DampfdruckIndexVon(s.Modell.DampfdruckTag), s.Stoff.TSiede, pNormal) <= 0.03))
+      ++daneben;
   }
-  EXPECT_EQ(nummern.size(), 430u); // system numbers are unique
-  int16_t failed = 0;
-  LadeStoff(s, 1, failed);
-  EXPECT_EQ(s.Stoff.Formel, "CH4");
-  EXPECT_EQ(s.Stoff.Struktur, "CH4");
-  EXPECT_DOUBLE_EQ(s.Stoff.TKrit, 190.56);
-  EXPECT_EQ(s.Modell.DampfdruckTag, "FRO");
+  EXPECT_EQ(nummern.size(), 430u);
+  EXPECT_EQ(mitSiedepunkt, 429);
+  EXPECT_LE(daneben, 47);
 }
 
 // The stored equations; August and the correlated ones pass the normal boiling point by
 // construction (see their own tests).
 TEST(Standarddatenbank, WaterBoilsAt373KelvinWithEveryEquationItHas) {
   ProjectState s = StoffAusStandardDatenbank(CasWasser);
-  ASSERT_EQ(s.Stoff.StoffName, "Wasser");
-  const StoffGruppe& st = s.Stoff;
-  std::vector<int> gleichungen;
-  for (const auto& [index, g] : {std::pair{AntoineNiederdruck, st.AntoineNdGrenzen},
-                                 {AntoineHochdruck, st.AntoineHdGrenzen},
-                                 {FrostKalkwarfDB, st.FrostKalkwarfGrenzen},
-                                 {WagnerDB, st.WagnerGrenzen}})
-    if (g.TLo > 0) gleichungen.push_back(index);
-  EXPECT_EQ(gleichungen.size(), 4u);
-  for (int index : gleichungen) {
+  for (int index : {AntoineNiederdruck, AntoineHochdruck, FrostKalkwarfDB, WagnerDB}) {
     // The high-pressure Antoine set is fitted from 374 K upwards and misses 1 atm by 0.69 %.
     const double toleranz = index == AntoineHochdruck ? 7e-3 : 5e-3;
     EXPECT_LT(Abweichung(s, index, 373.15, pNormal), toleranz) << "equation " << index;
   }
-}
-
-// Some stored curves miss 1 atm at the stored boiling point by more than 3 %: the source's curve and
-// boiling point disagree (long alkanes, acids and nitro compounds that decompose, substances that
-// sublime, curves cut where they drift). The data are kept as they are; their number stays bounded.
-TEST(Standarddatenbank, DefaultEquationPassesTheNormalBoilingPoint) {
-  ProjectState s = MitStandardDatenbank();
-  int mitSiedepunkt = 0, daneben = 0;
-  for (int k = 1; k <= s.Datenbank.StoffAnzahl; ++k) {
-    int16_t failed = 0;
-    LadeStoff(s, k, failed);
-    if (s.Stoff.TSiede <= 1e-6f) continue;
-    ++mitSiedepunkt;
-    if (!(Abweichung(s, DampfdruckIndexVon(s.Modell.DampfdruckTag), s.Stoff.TSiede, pNormal) <= 0.03))
-      ++daneben;
-  }
-  EXPECT_EQ(mitSiedepunkt, 429);
-  EXPECT_LE(daneben, 47);
 }
 
 TEST(Standarddatenbank, SynonymFileIsWindows1252WithCrLfAndEndsWithEnd) {
@@ -88,11 +65,8 @@ TEST(Standarddatenbank, SynonymFileIsWindows1252WithCrLfAndEndsWithEnd) {
   EXPECT_EQ(datei.substr(0, 9), "74-82-8\r\n");
   EXPECT_EQ(datei.substr(datei.size() - 5), "END\r\n");
   EXPECT_NE(datei.find("\r\nKOHLENS\xC4URE\r\n"), std::string::npos); // one byte for the umlaut
-  for (std::size_t i = 0; i < datei.size(); ++i) {
-    if (datei[i] == '\n') {
-      ASSERT_EQ(datei[i - 1], '\r') << "byte " << i;
-    }
-  }
+  for (std::size_t i = datei.find('\n'); i != std::string::npos; i = datei.find('\n', i + 1))
+    ASSERT_EQ(datei[i - 1], '\r') << "byte " << i;
 }
 
 TEST(Standarddatenbank, SmallOlderKindFixtureHoldsTheSameSubstances) {
@@ -109,12 +83,10 @@ TEST(Standarddatenbank, SmallOlderKindFixtureHoldsTheSameSubstances) {
       ++j;
     LadeStoff(neu, j, failed);
     SCOPED_TRACE(neu.Stoff.StoffName);
-    EXPECT_EQ(alt.Stoff.StoffName, neu.Stoff.StoffName);
-    EXPECT_EQ(alt.Stoff.Struktur, "");
-    EXPECT_EQ(alt.Stoff.TKrit, neu.Stoff.TKrit);
-    EXPECT_EQ(alt.Stoff.FrostKalkwarf, neu.Stoff.FrostKalkwarf);
-    EXPECT_EQ(alt.Stoff.CpSinh, neu.Stoff.CpSinh);
-    EXPECT_EQ(alt.Modell.DampfdruckTag, neu.Modell.DampfdruckTag);
+    const StoffGruppe &a = alt.Stoff, &n = neu.Stoff;
+    EXPECT_EQ(std::tie(a.StoffName, a.TKrit, a.FrostKalkwarf, a.CpSinh, alt.Modell.DampfdruckTag),
+              std::tie(n.StoffName, n.TKrit, n.FrostKalkwarf, n.CpSinh, neu.Modell.DampfdruckTag));
+    EXPECT_EQ(a.Struktur, ""); // the older kind has no structure
   }
 }
 
