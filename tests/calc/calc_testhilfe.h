@@ -53,7 +53,7 @@ inline Zustand Loese(ProjectState s, double T, double p) {
   return d;
 }
 
-// The EOS's saturation at T or at p; the saturated roots stay in VRoots.
+// The EOS's saturation pressure at T; the saturated roots stay in VRoots.
 inline double DruckLV(ProjectState& s, double T) {
   double imbalance, A, B;
   int16_t err = 0;
@@ -61,14 +61,6 @@ inline double DruckLV(ProjectState& s, double T) {
   EXPECT_EQ(err, 0);
   return p;
 }
-inline double TemperaturLV(ProjectState& s, double p) {
-  double imbalance, A, B, start = 0;
-  int16_t err = 0;
-  const double T = TLVbeiP(s, p, imbalance, A, B, start, err);
-  EXPECT_EQ(err, 0);
-  return T;
-}
-
 // A PARTIAL reference point of methane at its normal boiling point (saturated densities from the
 // usual tables), and Benson's liquid density through it.
 inline void ReferenzpunktMethan(ProjectState& s) {

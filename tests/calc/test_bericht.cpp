@@ -77,7 +77,7 @@ TEST(Bericht, DeviationsFromFiveHundredPercentAreFlagged) {
   b.k.AnzahlPunkte = 2;
   b.s.Mess.ExpDaten[1].RhoV = 2;
   b.s.Mess.ExpDaten[2].RhoV = 2;
-  b.k.StapelErgebnisse[1] = Ergebnis(1, "V+L", 300, 1000, 12, 500, 30000);    // rho(V) 2 -> 12: exactly +500 %
+  b.k.StapelErgebnisse[1] = Ergebnis(1, "V+L", 300, 1000, 12, 500, 30000); // rho(V) 2 -> 12: exactly +500 %
   b.k.StapelErgebnisse[2] = Ergebnis(1, "V+L", 320, 1500, 11.98f, 480, 5000); // 2 -> 11.98f: +498.99998 %
   const auto z = b.Text();
   EXPECT_EQ(ZeileMit(z, "(Abw.>500 %!)").find("(Abw.>500 %!)"), 32u);

@@ -117,18 +117,5 @@ TEST(CalcBatchFunktionen, VirialModelBlocks) {
       std::string::npos);
 }
 
-// The cubic parameter block shows a, b, c, d of the EOS at the state's T.
-TEST(CalcBatchFunktionen, ParameterBlockAtTheStatesTemperature) {
-  Rechnung r(StoffMitModell(CasWasser, 5));
-  r.Vorgabe(400, 100).Rechne(3);
-  ProjectState d = r.s;
-  EOSbeiT(d, 400);
-  const std::string kopf = "Parameter der generalisierten kub. EOS (CEOS Soave / Redlich / Kwong):";
-  EXPECT_NE(r.seite.Liste.text.find(kopf + "\r\n" + std::string(Utf8Laenge(kopf), '=') +
-                                    "\r\n  A = " + SingleText(static_cast<float>(d.EOS.aT)) +
-                                    "\r\n  B = " + SingleText(static_cast<float>(d.EOS.bT))),
-            std::string::npos);
-}
-
 } // namespace
 } // namespace quor

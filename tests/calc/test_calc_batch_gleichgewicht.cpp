@@ -33,7 +33,6 @@ TEST(CalcBatchGleichgewicht, GlobalFromTheCubicEquation) {
 
   Rechnung r(StoffMitModell(CasMethan, 6));
   r.Vorgabe(0, 1000).Rechne(5);
-  EXPECT_EQ(r.Zelle(ZelleT), TemperaturLV(d, 1000));
   WieGespeichert(r.seite, "art5_global");
 }
 

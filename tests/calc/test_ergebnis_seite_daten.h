@@ -21,11 +21,6 @@ inline void VergleicheMitGolden(const std::string& name, const std::string& ist)
   PruefeGolden("calc/seite/" + name, ist);
 }
 
-struct Messpunkt {
-  double T, p;
-  float RhoV, RhoL, HLV;
-};
-
 // The batch: point 3 is deleted (T = 0), point 4 has no delta(LV)h, point 5 no pressure measured.
 inline ProjectState StapelZustand(const std::string& verzeichnis) {
   ProjectState s;
@@ -40,21 +35,14 @@ inline ProjectState StapelZustand(const std::string& verzeichnis) {
   s.Optionen.CsvTrenner = ';';
   s.Optionen.DezimalKomma = false;
   s.Mess.BatchDateiTitel = "PROPAN.BAQ";
-  const std::vector<Messpunkt> punkte{{300, 1000, 20, 500, 30000},
-                                      {320, 1500, 2, 480, 5000},
-                                      {0, 1700, 30, 470, 8000},
-                                      {340, 2000, 40, 0, 0},
-                                      {360, 0, 50, 420, 10000}};
-  s.Mess.ExpAnzahl = static_cast<int16_t>(punkte.size());
-  s.Mess.ExpDaten.assign(punkte.size() + 1, ExpDatenSatz{});
-  for (std::size_t i = 0; i < punkte.size(); ++i) {
-    ExpDatenSatz& d = s.Mess.ExpDaten[i + 1];
-    d.T = punkte[i].T;
-    d.p = punkte[i].p;
-    d.RhoV = punkte[i].RhoV;
-    d.RhoL = punkte[i].RhoL;
-    d.HLV = punkte[i].HLV;
-  }
+  // Inaktiv, T, p, rho(L), rho(V), delta(LV)h
+  s.Mess.ExpDaten = {{},
+                     {false, 300, 1000, 500, 20, 30000, 0},
+                     {false, 320, 1500, 480, 2, 5000, 0},
+                     {false, 0, 1700, 470, 30, 8000, 0},
+                     {false, 340, 2000, 0, 40, 0, 0},
+                     {false, 360, 0, 420, 50, 10000, 0}};
+  s.Mess.ExpAnzahl = 5;
   s.RechenArt = 4;
   return s;
 }

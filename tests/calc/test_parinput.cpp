@@ -92,7 +92,7 @@ TEST(frmParinput, RefusesWhatIsNoPositiveNumber) {
 }
 
 // A density goes to row 0 as given: rho(V) for kinds 1 and 13, rho(L) for kind 2. A volume in the
-// display's unit is taken back to the engine's before it becomes the density M/v.
+// display's unit (molar or specific) is taken back to the engine's before it becomes the density M/v.
 TEST(frmParinput, DensityOrVolumeInTheDisplayUnit) {
   Eingabe dichte(102);
   dichte.OK({"150", "350,5"});
@@ -112,16 +112,6 @@ TEST(frmParinput, DensityOrVolumeInTheDisplayUnit) {
   EXPECT_EQ(spezifisch.frm.Felder[1].Bz, "  V/m^3/kg  = ");
   spezifisch.OK({"1000", "0.02"});
   EXPECT_REL(spezifisch.Zeile0().RhoV, 50.0, 1e-6); // 1 / (0.02 m^3/kg)
-
-  Eingabe reduziert(101);
-  reduziert.s.Einheiten.VolumenMode = 2;
-  SetzeEinheiten(reduziert.s, reduziert.ui);
-  const double vKrit = reduziert.s.EOS.vKritEOS;
-  ASSERT_GT(vKrit, 0);
-  reduziert.frm.Form_Load();
-  reduziert.frm.optRhoV_Click(1);
-  reduziert.OK({"200", "2"});
-  EXPECT_REL(reduziert.Zeile0().RhoV, M / (2 * vKrit), 1e-6); // twice the critical volume
 
   // The kept density shows as a volume in the chosen unit when the dialog opens again.
   molar.frm.Form_Load();
