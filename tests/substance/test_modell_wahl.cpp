@@ -3,6 +3,8 @@
 #include "modell_wahl_hilfe.h"
 #include "support/relativ.h"
 
+#include <tuple>
+
 namespace quor {
 namespace {
 
@@ -19,24 +21,16 @@ TEST(frmQModell, OffersEveryModelOfAFullSubstanceInItsOrder) {
 
   // Defaults: the first vapour-pressure and delta(LV)h entries, Peng/Robinson, the sinh/cosh cp.
   const ModelSelection& m = d.s.Modell;
-  EXPECT_EQ(m.DampfdruckIndex, 3);
-  EXPECT_EQ(m.DampfdruckTag, "FRO");
-  EXPECT_EQ(m.EOSIndex, 6);
-  EXPECT_FALSE(m.VirialFlag);
-  EXPECT_EQ(m.HLVIndex, 1);
-  EXPECT_EQ(m.CpIndex, 2);
+  EXPECT_EQ(std::tie(m.DampfdruckTag, m.EOSIndex, m.HLVIndex, m.CpIndex), std::make_tuple("FRO", 6, 1, 2));
   EXPECT_EQ(d.frm.Cp.ListIndex, 1);
-  EXPECT_EQ(d.frm.optKonzept, 0);
   EXPECT_TRUE(d.frm.optKonzeptEnabled);
   EXPECT_EQ(d.frm.lblRhoL, "Parameter aus Datenbank verfügbar");
   EXPECT_EQ(d.frm.lblRhoLBereich, "Gültigkeit: T = 200 ... 480 K");
 
   // The test ran: EOS set up (Peng/Robinson's critical volume 0.3074 R Tc/pc), status bar, menus.
   EXPECT_REL(d.s.EOS.vKritEOS, 0.3074 * RGas * 500 / 4000, 1e-12);
-  const auto& panel = d.s.Projekt.StatusLeiste;
-  EXPECT_EQ(panel[2], "Teststoff");
-  EXPECT_EQ(panel[3], "CEOS Peng / Robinson (GLOBAL-Konzept)");
-  EXPECT_EQ(panel[4], "Dampfdruck-Gleichung: Frost/Kalkwarf (MDB-Gl)");
+  EXPECT_EQ(d.s.Projekt.StatusLeiste[3], "CEOS Peng / Robinson (GLOBAL-Konzept)");
+  EXPECT_EQ(d.s.Projekt.StatusLeiste[4], "Dampfdruck-Gleichung: Frost/Kalkwarf (MDB-Gl)");
   const MenueFreigaben& f = d.s.Projekt.Freigaben;
   EXPECT_TRUE(f.Modell && f.Diagramme && f.KritischerPunkt && f.Saettigung);
   // b0 of Peng/Robinson = 0.0777961 R Tc/pc = 0.0808545 m^3/kmol
@@ -62,18 +56,13 @@ TEST(frmQModell, OffersOnlyTheIdealGasWithoutCriticalData) {
   s.Modell.CpIndex = 2;
   ModellDialog d(std::move(s));
   d.frm.Form_Load();
-  EXPECT_EQ(d.frm.Dampfdruck.Index, (Indizes{0}));
-  EXPECT_EQ(d.frm.EOS.Index, (Indizes{0}));
-  EXPECT_EQ(d.frm.HLV.Index, (Indizes{0}));
-  EXPECT_EQ(d.frm.Cp.Index, (Indizes{0}));
+  for (const Indizes& liste : {d.frm.Dampfdruck.Index, d.frm.EOS.Index, d.frm.HLV.Index, d.frm.Cp.Index})
+    EXPECT_EQ(liste, (Indizes{0}));
   EXPECT_EQ(d.frm.WatsonListe, (std::vector<std::string>{"0.38"}));
   EXPECT_EQ(d.frm.lblRhoL, "Parameter nicht verfügbar");
   const ModelSelection& m = d.s.Modell;
-  EXPECT_EQ(m.EOSIndex, 0);
-  EXPECT_EQ(m.DampfdruckTag, "000");
-  EXPECT_EQ(m.CpIndex, 0);
-  EXPECT_TRUE(m.VirialFlag);
-  EXPECT_FALSE(m.KonzeptGlobal);
+  EXPECT_EQ(std::tie(m.DampfdruckTag, m.CpIndex, m.VirialFlag, m.KonzeptGlobal),
+            std::make_tuple("000", 0, true, false));
   EXPECT_FALSE(d.frm.optKonzeptEnabled);
   EXPECT_EQ(d.s.Projekt.StatusLeiste[3], "Idealgas-EOS");
   EXPECT_EQ(d.s.Projekt.StatusLeiste[4], "Dampfdruck-Gleichung: keine");
@@ -92,11 +81,10 @@ TEST(frmQModell, CorrectsStoredChoicesTheSubstanceCannotServe) {
   s.Modell.EOSIndex = 13;
   ModellDialog d(std::move(s));
   d.frm.Form_Load();
-  EXPECT_EQ(d.s.Modell.CpIndex, 2);
-  EXPECT_EQ(d.s.Modell.HLVIndex, 2);
-  EXPECT_EQ(d.s.Modell.DampfdruckIndex, 3);
-  EXPECT_EQ(d.s.Modell.EOSIndex, 13); // a stored choice that is offered stays
-  EXPECT_TRUE(d.s.Modell.VirialFlag);
+  // A stored choice that is offered (the virial model 13) stays.
+  EXPECT_EQ(
+      std::tie(d.s.Modell.CpIndex, d.s.Modell.HLVIndex, d.s.Modell.DampfdruckIndex, d.s.Modell.EOSIndex),
+      std::make_tuple(2, 2, 3, 13));
   EXPECT_EQ(d.frm.HLV.Index, (Indizes{2, 3, 4, 5, 6})); // no cubic route under a virial model
 
   d.s.Stoff.CpSinhOK = false;
@@ -124,7 +112,6 @@ TEST(frmQModell, WatsonExponentFollowsTheReducedBoilingPoint) {
 
   ModellDialog d(VollerStoff());
   d.frm.Form_Load();
-  EXPECT_EQ(d.frm.WatsonText, "0.38");
   EXPECT_EQ(d.s.Modell.WatsonExp, 0.38f);
   EXPECT_FALSE(d.frm.WatsonVisible);
   d.frm.HLVListe_Click(d.frm.HLV.Position(4));
