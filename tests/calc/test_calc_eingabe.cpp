@@ -2,7 +2,6 @@
 // with its refusal for models without a liquid, the source of the liquid density, the PARTIAL
 // reference point by its three ways, and where OK goes on.
 #include "calc/calc_eingabe.h"
-#include "calc/parinput.h"
 #include "calc_testhilfe.h"
 #include "dienste/skript_oberflaeche.h"
 #include "eingabe_testhilfe.h"
@@ -128,7 +127,7 @@ TEST(frmCalcIn, SourceOfTheLiquidDensity) {
 }
 
 // PARTIAL without a reference point proposes one by the data at once; Benson's approximation is the
-// second way; a point already held is shown and kept.
+// second way; the third opens the value dialog; a point already held is shown and kept.
 TEST(frmCalcIn, ReferencePointByProposalAndBenson) {
   Dialog d(6, 5);
   d.s.Modell.KonzeptGlobal = false;
@@ -148,6 +147,12 @@ TEST(frmCalcIn, ReferencePointByProposalAndBenson) {
   EXPECT_EQ(r.BezugRhoV, rhoV); // Benson's way leaves the vapour density as it was
   EXPECT_NE(d.frm.RefVorschlag.find("\r\n p(LV)(ref)/kPa     = 101.325  (Normaldruck)\r\n"),
             std::string::npos);
+  d.frm.RefInput_Click(); // only the third way opens the value dialog
+  EXPECT_EQ(d.fenster.schritte, Schritte{});
+  d.frm.Ref_opt_Click(2);
+  d.frm.RefInput_Click();
+  EXPECT_EQ(d.fenster.schritte, Schritte{"frmParinput"});
+  EXPECT_EQ(d.s.Rechnung.ParinputModus, 4);
 
   Dialog gehalten(6, 5);
   gehalten.s.Modell.KonzeptGlobal = false;
@@ -156,29 +161,6 @@ TEST(frmCalcIn, ReferencePointByProposalAndBenson) {
   EXPECT_EQ(gehalten.frm.Ref_opt, -1);
   EXPECT_EQ(gehalten.frm.RefVorschlag, " T(ref)/K           = 111.66\r\n p(LV)(ref)/kPa     = 101.325\r\n"
                                        " rho(L)(ref)/kg/m^3 = 422.6\r\n rho(V)(ref)/kg/m^3 = 1.82");
-}
-
-// The third way: the value dialog for the reference point, whose values the report shows afterwards.
-TEST(frmCalcIn, ReferencePointTypedIn) {
-  Dialog d(6, 4);
-  d.s.Modell.KonzeptGlobal = false;
-  d.fenster.beimParinput = [&d] {
-    EXPECT_EQ(d.s.Rechnung.ParinputModus, 4);
-    frmParinput eingabe(d.s, d.ui);
-    eingabe.Form_Load();
-    const char* werte[] = {"120", "191,6", "410.5", "3,1"};
-    for (std::size_t i = 0; i < 4; ++i)
-      eingabe.Felder[i].par = werte[i];
-    EXPECT_TRUE(eingabe.cmdParameter_OK_Click());
-  };
-  d.frm.Form_Load();
-  d.frm.RefInput_Click(); // not yet chosen: nothing opens
-  EXPECT_EQ(d.fenster.schritte, Schritte{});
-  d.frm.Ref_opt_Click(2);
-  d.frm.RefInput_Click();
-  EXPECT_EQ(d.fenster.schritte, Schritte{"frmParinput"});
-  EXPECT_EQ(d.frm.RefVorschlag, " T(ref)/K           = 120\r\n p(LV)(ref)/kPa     = 191.6\r\n"
-                                " rho(L)(ref)/kg/m^3 = 410.5\r\n rho(V)(ref)/kg/m^3 = 3.1");
 }
 
 // OK takes the reference point and goes on: the page and the value dialog of the kind, the vessel's

@@ -48,16 +48,6 @@ TEST(ErgebnisSeite, PagingSkipsTheDeletedPointAndBeepsAtTheEnds) {
   EXPECT_TRUE(t.ui.protokoll.empty());
 }
 
-// A batch of one point beeps on both buttons.
-TEST(ErgebnisSeite, ABatchOfOnePointBeepsBothWays) {
-  Seite eins;
-  eins.s.Mess.ExpAnzahl = 1;
-  eins.seite.Form_Load();
-  EXPECT_EQ(eins.Schritte(&frmQCalcOut::cmdVor_Click, 1), (std::vector<int>{1}));
-  EXPECT_EQ(eins.Schritte(&frmQCalcOut::cmdRueck_Click, 1), (std::vector<int>{1}));
-  EXPECT_EQ(eins.seite.Piepser, 2);
-}
-
 // Opening sizes the records (all without result), starts at the first live point, calculates once;
 // "EXIT" from the calculation closes the page with its companions before it is shown.
 TEST(ErgebnisSeite, OpeningStartsAtTheFirstLivePointAndHonoursExit) {

@@ -137,11 +137,6 @@ TEST(Protokoll, ClosingThePageWritesAnOpenRecord) {
   p.seite.Form_Unload();
   EXPECT_TRUE(DateiExistiert(p.tmp.Datei("24140301.CSV")));
   EXPECT_NE(p.ui.zwischenablage.find("300\t1012.5\t"), std::string::npos);
-
-  ProtokollSeite ohne; // nothing recorded: no file
-  ohne.Oeffnen();
-  ohne.seite.Form_Unload();
-  EXPECT_FALSE(DateiExistiert(ohne.tmp.Datei("24140301.CSV")));
 }
 
 // yy dd mm from a date "dd.mm.yyyy", then the running number, raised past existing files with a

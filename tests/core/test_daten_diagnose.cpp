@@ -63,9 +63,7 @@ TEST(DatenDiagnose, KnowsEachVapourPressureSourceAndOmegaInSinglePrecision) {
   EXPECT_TRUE(DatenDiagnose(s).DampfdruckOK);
 
   s.Stoff.omega = 1e-50; // not 0 as a double, 0 in single precision
-  const DatenLage d = DatenDiagnose(s);
-  EXPECT_FALSE(d.OmegaOK);
-  EXPECT_TRUE(d.KritOK && d.SiedeOK && d.HLVOK && d.AmpelNichtRot);
+  EXPECT_FALSE(DatenDiagnose(s).OmegaOK);
 }
 
 // The whole report for each level, from golden files core/ampel_<level>.txt.

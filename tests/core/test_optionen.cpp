@@ -114,13 +114,11 @@ TEST(Optionen, CalculationModeRenamesTheFirstCalculationEntries) {
   o.dlg->OptCalcMode = 0;
   const OptionenAktionen liste = o.dlg->cmdOK();
   ASSERT_EQ(liste.CalcMenueTexte.size(), 4u);
-  EXPECT_EQ(liste.CalcMenueTexte[3],
-            (std::pair<int, std::string>{3, "Spalten p, rho(V) => T, Zustand L/V     + thermod. Fu."}));
+  EXPECT_EQ(liste.CalcMenueTexte[3].second, "Spalten p, rho(V) => T, Zustand L/V     + thermod. Fu.");
   o.dlg->OptCalcMode = 1;
   const OptionenAktionen direkt = o.dlg->cmdOK();
   EXPECT_FALSE(o.s.Rechnung.StapelModus);
-  EXPECT_EQ(direkt.CalcMenueTexte[1],
-            (std::pair<int, std::string>{3, "p, rho      => T, Zustand L/V     + thermod. Fu."}));
+  EXPECT_EQ(direkt.CalcMenueTexte[1].second, "p, rho      => T, Zustand L/V     + thermod. Fu.");
 }
 
 TEST(Optionen, ACommaSeparatorIsQuestionedWhenTheSystemWritesDecimalCommas) {
