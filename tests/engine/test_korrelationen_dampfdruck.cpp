@@ -76,9 +76,6 @@ TEST(Dampfdruck, FrostKalkwarfExplicitFollowsTheStoredShifts) {
     EXPECT_EQ(failed, 0);
     EXPECT_REL(TLV(s, MethanPerry(T), 3, false, failed), T, 1e-4);
   }
-  // An E below 1e-35 still counts as none.
-  s.Stoff.FrostKalkwarf[4] = 1e-36f;
-  EXPECT_REL(pLV(s, 111.66, 3, false, failed), MethanPerry(111.66), 2e-5);
 }
 
 TEST(Dampfdruck, FrostKalkwarfImplicitSolvesForThePressureInTheETerm) {
@@ -109,17 +106,6 @@ TEST(Dampfdruck, WagnerFailsAtItsCriticalTemperatureAndBeyondASumOf50) {
   EXPECT_TRUE(ui.Meldungen().empty());
 }
 
-TEST(Dampfdruck, WagnerInverseStartsWithoutABoilingPoint) {
-  ProjectState s = Wasser();
-  s.Stoff.TSiede = 0; // start at 0.8 Tcrit instead of the August temperature
-  int16_t failed = -1;
-  for (double T : {280.0, 373.15, 500.0, 640.0}) {
-    const double p = pLV(s, T, 4, false, failed);
-    EXPECT_REL(TLV(s, p, 4, false, failed), T, 1e-5);
-    EXPECT_EQ(failed, 0);
-  }
-}
-
 TEST(Dampfdruck, SlopeAgreesWithTheCurveForEveryForm) {
   ProjectState s = Wasser();
   MethanFrostKalkwarf(s.Stoff); // the stored C' is 273.15 - 273.15, so the sign of C' - T doesn't show
@@ -131,7 +117,6 @@ TEST(Dampfdruck, SlopeAgreesWithTheCurveForEveryForm) {
   }
   // August: ln p is linear in 1/T with the slope B.
   EXPECT_REL(DLnpDInvT(s, 300, 5, failed), s.Stoff.AugustB, 1e-6);
-  EXPECT_EQ(DLnpDInvT(s, 300, 0, failed), 0.0f);
   EXPECT_EQ(DLnpDInvT(s, 300, 9, failed), 0.0f);
 }
 

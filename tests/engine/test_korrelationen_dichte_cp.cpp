@@ -75,8 +75,6 @@ TEST(Dichte, SolidCubicAndTheRangeWarningsOfBothPhases) {
   EXPECT_EQ(ui.Letzte().text, " Temperatur -7 K außerhalb Parameter-Gültigkeitsbereich\r\n"
                               "(zum Gültigkeitsbereich der Dichtegleichung vgl. Fenster \"Modelle\")");
   EXPECT_EQ(ui.Letzte().titel, "Warnung zur Dichtegleichung rho(L) = Fu(T)");
-  RhoL(s, 84, false, failed, &ui);
-  EXPECT_EQ(ui.Meldungen().size(), 2u);
 }
 
 TEST(Dichte, StraightDiameterRunsThroughTheReferenceAndTheCriticalPoint) {

@@ -46,10 +46,7 @@ void PruefeModell(const StoffDaten& stoff, int16_t index) {
   for (double p : druecke) {
     double ohneStart = 0;
     const double T = TLVbeiP(s, p, imb, A, B, ohneStart, err);
-    EXPECT_TRUE(std::isfinite(T) && std::isfinite(imb)) << p;
-    if (err == 0) {
-      EXPECT_GE(T, 0) << p;
-    }
+    EXPECT_TRUE(std::isfinite(T) && std::isfinite(imb) && (err != 0 || T >= 0)) << p;
   }
 }
 
