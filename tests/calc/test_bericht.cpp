@@ -174,7 +174,6 @@ TEST(Bericht, PrinterReportUsesColumnsOfTheCharacterWidth) {
     return -1.0;
   };
   EXPECT_EQ(gedruckt(" QUOR: Results of Calculation"), 20 * x);
-  EXPECT_EQ(gedruckt(" Propan"), 26 * x);
   EXPECT_EQ(gedruckt("       d2p/dV²: "), 5 * x);
   EXPECT_EQ(gedruckt(" 1012.5"), 20 * x);
   // The rules of 70 characters are drawn as lines.

@@ -100,22 +100,5 @@ TEST(CalcBatchFunktionen, FugacityBlockOfBothPhases) {
   EXPECT_EQ(t.find("Wendepunkt"), std::string::npos);
 }
 
-// A virial model: no inflection points, its coefficient as the parameter block; the missing liquid
-// leaves 13 blanks in its column. ln phi of the virial equation is B*p/(R*T).
-TEST(CalcBatchFunktionen, VirialModelBlocks) {
-  Rechnung r(StoffMitModell(CasWasser, 16));
-  r.k.Abschnitte = 4;
-  r.Vorgabe(500, 100).Rechne(3);
-  const std::string& t = r.seite.Liste.text;
-  const double B = BvonT(r.s, 16, 500);
-  EXPECT_EQ(t.find("Wendepunkt"), std::string::npos);
-  EXPECT_NE(t.find("     ln (phi*) : " + std::string(13 + 18, ' ') +
-                   FormatVB(B * 100 / (RGas * 500), Format) + "\r\n"),
-            std::string::npos);
-  EXPECT_NE(
-      t.find("Virialkoeffizient (VIRIAL-EOS Pitzer / Curl):\r\n  B =" + SingleText(static_cast<float>(B))),
-      std::string::npos);
-}
-
 } // namespace
 } // namespace quor

@@ -82,7 +82,6 @@ TEST(CEOSDiagnose, OneRootAndNothingToShow) {
   oben.Form_Load();
   EXPECT_EQ(oben.pctEOS, frmCEOSDiagnose::Bild::EineWurzelUeberkritisch);
   EXPECT_EQ(oben.Wurzeln[0], "v(1) = 0.1 m^3/kmol");
-  EXPECT_EQ(DiagnoseBild(369.8f, 369.83, 3), frmCEOSDiagnose::Bild::DreiWurzelnUnterkritisch);
 
   ProjectState virial = Kubisch();
   virial.Modell.EOSIndex = 14;

@@ -73,8 +73,9 @@ TEST(frmReferenz, ShowsReferenceValuesInTheEnergyUnit) {
 }
 
 // The conventional normalisation needs h and g of formation, the formation reference h and s; the
-// kind in the state is the selected option.
-TEST(frmReferenz, OptionsFollowTheFormationData) {
+// kind in the state is the selected option. Option 1 sets To and po at once; the four reference
+// fields are editable only under option 0.
+TEST(frmReferenz, OptionsFollowTheFormationDataAndLockTheFields) {
   Dialog d(StoffMitModell(CasWasser, 6));
   d.s.Stoff.hBildung = -241820;
   d.s.Stoff.gBildung = -228590;
@@ -83,30 +84,20 @@ TEST(frmReferenz, OptionsFollowTheFormationData) {
   d.frm.Form_Load();
   EXPECT_EQ(d.frm.opt_HNull_Enabled, (std::array<bool, 3>{true, true, false}));
   EXPECT_EQ(d.frm.opt_HNull, 1);
+  EXPECT_EQ(d.frm.T_Enabled, (std::array<bool, 6>{false, false, false, false, true, true}));
 
   d.s.Stoff.gBildung = 0;
   d.s.Stoff.sBildung = 188.8f;
   d.s.Referenz.RefArt = RefBildung;
+  d.s.Referenz.TRef = 350;
   d.frm.Form_Load();
   EXPECT_EQ(d.frm.opt_HNull_Enabled, (std::array<bool, 3>{true, false, true}));
   EXPECT_EQ(d.frm.opt_HNull, 2);
-}
-
-// Option 1 sets To and po at once; the four reference fields are editable only under option 0.
-TEST(frmReferenz, OptionClickRefillsAndLocksTheFields) {
-  Dialog d(StoffMitModell(CasWasser, 6));
-  d.s.Referenz.TRef = 350;
-  d.s.Referenz.pRef = 40;
-  d.frm.Form_Load();
-  EXPECT_EQ(d.frm.T_Enabled, (std::array<bool, 6>{true, true, true, true, true, true}));
-  d.frm.opt_HNull_Click(2);
   EXPECT_EQ(d.s.Referenz.TRef, 350.0f); // the formation kind overrides at evaluation only
-  EXPECT_EQ(d.frm.T_Enabled, (std::array<bool, 6>{false, false, false, false, true, true}));
   d.frm.opt_HNull_Click(1);
   EXPECT_EQ(std::tie(d.s.Referenz.TRef, d.s.Referenz.pRef), std::tuple(298.15f, 101.325f));
-  EXPECT_EQ(d.frm.T[3], "101.325");
   d.frm.opt_HNull_Click(0);
-  EXPECT_TRUE(d.frm.T_Enabled[0] && d.frm.T_Enabled[3]);
+  EXPECT_EQ(d.frm.T_Enabled, (std::array<bool, 6>{true, true, true, true, true, true}));
 }
 
 // OK reads the fields with either decimal mark, divides h and s by the energy factor, stores a
