@@ -67,6 +67,11 @@ inline ProjectState ZustandMit(const StoffDaten& d, int16_t index) {
   return s;
 }
 
+// p of the generalised cubic EOS with the constants of the last evaluation, written out here.
+inline double DruckKubisch(const ProjectState& s, double T, double v) {
+  return RGas * T / (v - s.EOS.bT) - s.EOS.aT / ((v + s.EOS.cT) * (v + s.EOS.dT));
+}
+
 // The outputs of VzuTP in one record.
 struct Loesung {
   bool istL = false, istV = false;

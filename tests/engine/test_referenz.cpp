@@ -49,8 +49,8 @@ Vorschlag Vorschlagen(ProjectState& s) {
   return v;
 }
 
-// At the normal boiling point the liquid density comes from the database point there, from the
-// density polynomial, or from the single point and its slope, in that order.
+// At the normal boiling point the liquid density comes from the database point there, or from the
+// single point and its slope.
 TEST(PartialBezugspunkt, LiquidDensityAtTheNormalBoilingPoint) {
   ProjectState s = Stoff(6);
   s.Stoff.RhoL = {958.4f, 0, 373.15f, 0, 0, 0, 0};
@@ -67,14 +67,6 @@ TEST(PartialBezugspunkt, LiquidDensityAtTheNormalBoilingPoint) {
   v = Vorschlagen(s);
   EXPECT_REL(v.rhoL, 1300 - 0.9 * (373.15f - 300), 1e-7);
   EXPECT_EQ(v.zeilen[2], " rho(L)(ref)/kg/m^3 = 1234.165 (berechnet aus dRho/dT)");
-
-  s.Stoff.RhoL = {0, 5.459f, 0.30542f, 0.081f, 0, 0, 0}; // Rackett form within a range
-  s.Stoff.RhoLTcr = 647.13f;
-  s.Stoff.RhoLGrenzen = {273, 647};
-  v = Vorschlagen(s);
-  int16_t f = 0;
-  EXPECT_EQ(v.rhoL, RhoL(s, 373.15f, false, f)); // the database function at the boiling point
-  EXPECT_NE(v.zeilen[2].find(" (aus Datenbank-Polynom rho(T))"), std::string::npos);
 }
 
 // Without a boiling point (or without a density there) the single density point gives T, and the

@@ -24,10 +24,6 @@ double LnPhi(const ProjectState& s, double T, double v, double p) {
   return std::log(v / (v - b)) - anziehung - std::log(z) + z - 1;
 }
 
-double Druck(const ProjectState& s, double T, double v) {
-  return RGas * T / (v - s.EOS.bT) - s.EOS.aT / ((v + s.EOS.cT) * (v + s.EOS.dT));
-}
-
 // The saturated pair that pLVbeiT leaves in VRoots: both are roots at p (within the root's volume
 // error times dp/dv; the liquid root of the deflated quadratic inherits the vapour root's error
 // magnified by vV/vL), and their ln phi agree: g(V) - g(L) = -(A + B), and the imbalance tolerance
@@ -39,7 +35,7 @@ void PruefeGleichgewicht(const ProjectState& s, double T, double p, double A, do
   for (const auto& [v, toleranz] : {std::pair{vL, 2e-3}, {vV, 1e-9}}) {
     const double steigung =
         -RGas * T / ((v - b) * (v - b)) + a * (2 * v + c + d) / std::pow((v + c) * (v + d), 2);
-    EXPECT_LE(std::fabs(Druck(s, T, v) - p), toleranz * std::fabs(v * steigung)) << "v = " << v;
+    EXPECT_LE(std::fabs(DruckKubisch(s, T, v) - p), toleranz * std::fabs(v * steigung)) << "v = " << v;
   }
   const double differenz = LnPhi(s, T, vV, p) - LnPhi(s, T, vL, p);
   const double massstab = (A - B) / (RGas * T);
