@@ -1,6 +1,5 @@
-// The substance search of the default database: by list name, CAS number, system number and
-// synonym (the spelling rules of the key are the synonym tests'), and what it tells when nothing is
-// found.
+// The substance search of the default database by list name, CAS number and synonym (the spelling
+// rules of the key are the synonym tests'), and a synonym without its substance.
 #include "dienste/skript_oberflaeche.h"
 #include "substance/stoff_wahl_suche.h"
 #include "support/stoff_fixture.h"
@@ -35,18 +34,6 @@ TEST(StoffSuchen, FindsByNameCasNumberAndSynonym) {
     EXPECT_EQ(Suchen(s, ui, text).index, Position(s, name)) << text;
   EXPECT_EQ(IndexVonCAS(s, "74-82-8   "), 1); // compared right-trimmed
   EXPECT_TRUE(ui.protokoll.empty());
-}
-
-TEST(StoffSuchen, KeepsTheCurrentEntryWhenNothingIsFound) {
-  ProjectState s = MitStandardDatenbank();
-  ui::SkriptOberflaeche ui;
-  const Ergebnis e = Suchen(s, ui, "Metha", 7);
-  EXPECT_TRUE(e.notFound);
-  EXPECT_EQ(e.index, 7);
-  ASSERT_EQ(ui.Meldungen().size(), 1u);
-  EXPECT_EQ(ui.Letzte().text, "Unter dieser Bezeichnung nichts gefunden.");
-  EXPECT_EQ(ui.Letzte().titel, "Fehler bei Stoffwahl");
-  EXPECT_EQ(ui.Letzte().symbol, ui::Symbol::Ausruf);
 }
 
 TEST(StoffSuchen, TellsOfASynonymWhoseSubstanceIsNotInTheDatabase) {

@@ -98,7 +98,11 @@ TEST(frmQStoffWahl, FailedSearchShowsTheCurrentEntryAgainAndLoadsNothing) {
   d.frm.List1_Click(4);
   d.frm.NameCombo = "Metha";
   EXPECT_EQ(d.frm.NameCombo_KeyEnter(), StoffWahlAktion::Nichts);
-  EXPECT_EQ(d.ui.Meldungen().size(), 1u); // the search's message
+  ASSERT_EQ(d.ui.Meldungen().size(), 1u);
+  const auto meldung = d.ui.Letzte();
+  EXPECT_EQ(std::tie(meldung.text, meldung.titel, meldung.symbol),
+            std::make_tuple("Unter dieser Bezeichnung nichts gefunden.", "Fehler bei Stoffwahl",
+                            ui::Symbol::Ausruf));
   EXPECT_EQ(d.frm.NameCombo, NameOhneZusatz(d.s.Datenbank.NamenListe[5]));
   d.frm.NameCombo = "Metha";
   EXPECT_EQ(d.frm.StoffOK_Click(), StoffWahlAktion::Nichts);
