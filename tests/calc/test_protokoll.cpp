@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <tuple>
 
 namespace quor {
@@ -16,39 +17,22 @@ namespace {
 
 using namespace quor::test;
 
-ErgebnisVektor Vektor(std::initializer_list<std::pair<int, double>> zellen) {
+// A record's cells T, p, v(V), eU(V), v(L), delta(LV)h, delta(LV)s, alpha(V); the others stay 0.
+ErgebnisVektor Vektor(const std::array<double, 8>& werte) {
+  const int zellen[] = {ZelleT, ZelleP, ZelleVV, ZelleEUV, ZelleVL, ZelleDhLV, ZelleDsLV, ZelleAlphaV};
   ErgebnisVektor e{};
-  for (const auto& [zelle, wert] : zellen)
-    e[static_cast<std::size_t>(zelle)] = wert;
+  for (std::size_t i = 0; i < werte.size(); ++i)
+    e[static_cast<std::size_t>(zellen[i])] = werte[i];
   return e;
 }
 
-// The vectors of the batch: cell 31 (alpha(V)) cancels to a sum of exactly 0 over the three records,
-// cell 16 (" eU(V)", the name with the leading blank) is set, cell 40 stays 0.
+// The vectors of the batch: alpha(V) cancels to a sum of exactly 0 over the three records, eU(V) (the
+// name with the leading blank) is set, cell 40 stays 0.
 RechnungsAttrappe ProtokollRechnung() {
   RechnungsAttrappe r = StapelRechnung();
-  r.vektoren[1] = Vektor({{ZelleT, 300},
-                          {ZelleP, 1012.5},
-                          {ZelleVV, 2.5},
-                          {ZelleEUV, -1250.25},
-                          {ZelleVL, 0.088},
-                          {ZelleDhLV, 40000},
-                          {ZelleDsLV, 133.3333333},
-                          {ZelleAlphaV, 0.5}});
-  r.vektoren[2] = Vektor({{ZelleT, 320},
-                          {ZelleP, 1480.25},
-                          {ZelleVV, 1.75},
-                          {ZelleEUV, 2e-7},
-                          {ZelleVL, 0.09},
-                          {ZelleDhLV, 40000},
-                          {ZelleDsLV, 125},
-                          {ZelleAlphaV, -0.5}});
-  r.vektoren[5] = Vektor({{ZelleT, 360},
-                          {ZelleP, 2500.125},
-                          {ZelleVV, 0.5},
-                          {ZelleVL, 0.105},
-                          {ZelleDhLV, 1e5},
-                          {ZelleDsLV, 277.7777778}});
+  r.vektoren[1] = Vektor({300, 1012.5, 2.5, -1250.25, 0.088, 40000, 133.3333333, 0.5});
+  r.vektoren[2] = Vektor({320, 1480.25, 1.75, 2e-7, 0.09, 40000, 125, -0.5});
+  r.vektoren[5] = Vektor({360, 2500.125, 0.5, 0, 0.105, 1e5, 277.7777778, 0});
   return r;
 }
 

@@ -60,20 +60,26 @@ ProjectState Beispiel() {
   return s;
 }
 
-// Reads the text of a project into `s`: the six head lines and the settings.
-bool Lesen(const std::string& text, ProjectState& s, ProjektKopf& kopf, LeseFehler& fehler) {
-  ListenLeser leser(Utf8ZuWin1252(text));
-  return LeseKopfAnfang(leser, kopf, fehler) && LeseKopfRest(leser, kopf, fehler) &&
+// A project text read into a fresh state: the six head lines and the settings.
+struct Gelesen {
+  ProjectState s;
+  ProjektKopf kopf;
+  LeseFehler fehler;
+  bool ok = false;
+  explicit Gelesen(const std::string& text) {
+    InitProjectState(s);
+    ListenLeser leser(Utf8ZuWin1252(text));
+    ok = LeseKopfAnfang(leser, kopf, fehler) && LeseKopfRest(leser, kopf, fehler) &&
          LeseEinstellungen(leser, s, fehler);
-}
+  }
+};
 
 TEST(ProjektDatei, EveryItemComesBackAsItWasWritten) {
   const ProjectState alt = Beispiel();
-  ProjectState neu;
-  InitProjectState(neu);
-  ProjektKopf kopf;
-  LeseFehler fehler;
-  ASSERT_TRUE(Lesen(ProjektText(alt, "01.02.2024 10:11:12"), neu, kopf, fehler)) << fehler.Grund;
+  const Gelesen g(ProjektText(alt, "01.02.2024 10:11:12"));
+  ASSERT_TRUE(g.ok) << g.fehler.Grund;
+  const ProjectState& neu = g.s;
+  const ProjektKopf& kopf = g.kopf;
 
   EXPECT_EQ(kopf.Datum, "01.02.2024 10:11:12");
   EXPECT_EQ(kopf.Kommentar, "Prüfstand 3, Methan");
@@ -114,19 +120,17 @@ TEST(ProjektDatei, BooleansAreMinusOneOrZeroAndTheTextIsCrLf) {
   for (std::size_t i = text.find('\n'); i != std::string::npos; i = text.find('\n', i + 1))
     EXPECT_EQ(text[i - 1], '\r');
 
-  ProjectState neu;
-  InitProjectState(neu);
-  ProjektKopf kopf;
-  LeseFehler fehler;
-  ASSERT_TRUE(Lesen(text, neu, kopf, fehler));
-  EXPECT_EQ(kopf.Kommentar, KeinKommentar);
+  const Gelesen g(text);
+  ASSERT_TRUE(g.ok);
+  EXPECT_EQ(g.kopf.Kommentar, KeinKommentar);
 
   // Without manual normalisation the presets are written as 0 and taken over as such.
   s.Optionen.ParSpeichern = false;
   const std::string ohne = ProjektText(s, "heute");
   EXPECT_NE(ohne.find("74-82-8     \r\n0,0,0\r\n"), std::string::npos) << ohne;
-  ASSERT_TRUE(Lesen(ohne, neu, kopf, fehler));
-  EXPECT_EQ(neu.Einheiten.TVorgabe, 0.0f);
+  const Gelesen h(ohne);
+  ASSERT_TRUE(h.ok);
+  EXPECT_EQ(h.s.Einheiten.TVorgabe, 0.0f);
 }
 
 TEST(ProjektDatei, SettingsAreReadValueByValueWhateverTheLineBreaks) {
@@ -136,12 +140,10 @@ TEST(ProjektDatei, SettingsAreReadValueByValueWhateverTheLineBreaks) {
                            "-1", "1", "1", "0.375", "#FALSE#", "2", "10.5",   "0.25", "298.15", "101.325",
                            "0",  "0", "0", "1",     "0",       "0", "0",      "0"})
     text += std::string(wert) + "\r\n";
-  ProjectState s;
-  InitProjectState(s);
-  ProjektKopf kopf;
-  LeseFehler fehler;
-  ASSERT_TRUE(Lesen(text, s, kopf, fehler)) << fehler.Grund << " " << fehler.Zeile;
-  EXPECT_EQ(DatenbankArtVonPfad(kopf.Datenbank), 6);
+  const Gelesen g(text);
+  ASSERT_TRUE(g.ok) << g.fehler.Grund << " " << g.fehler.Zeile;
+  const ProjectState& s = g.s;
+  EXPECT_EQ(DatenbankArtVonPfad(g.kopf.Datenbank), 6);
   EXPECT_EQ(s.Einheiten.EnergieMode, 3);
   EXPECT_TRUE(s.Optionen.KurveTpBeschraenkt); // #TRUE#
   EXPECT_EQ(s.Optionen.CsvTrenner, ',');
@@ -159,11 +161,9 @@ TEST(ProjektDatei, ValuesOutsideTheirTablesFallBackAndNoVapourPressureTagIsMarke
   const std::size_t zeile = text.find("0,14,2,4,");
   ASSERT_NE(zeile, std::string::npos);
   text.replace(zeile, 9, "0,99,7,-3,");
-  ProjectState neu;
-  InitProjectState(neu);
-  ProjektKopf kopf;
-  LeseFehler fehler;
-  ASSERT_TRUE(Lesen(text, neu, kopf, fehler));
+  const Gelesen g(text);
+  ASSERT_TRUE(g.ok);
+  const ProjectState& neu = g.s;
   EXPECT_EQ(neu.Modell.DampfdruckTag, "<>");
   EXPECT_EQ(std::tie(neu.Modell.EOSIndex, neu.Modell.CpIndex, neu.Modell.HLVIndex), std::tuple(0, 0, 0));
 }
@@ -172,27 +172,24 @@ TEST(ProjektDatei, ABreakLeavesTheItemsBeforeItInPlace) {
   const std::string ganz = ProjektText(Beispiel(), "heute");
   // Cut right after item 19 (the concept), before the reference kind.
   const std::size_t schnitt = ganz.find(",0.38,0\r\n") + 9;
-  ProjectState s;
-  InitProjectState(s);
-  ProjektKopf kopf;
-  LeseFehler fehler;
-  EXPECT_FALSE(Lesen(ganz.substr(0, schnitt), s, kopf, fehler));
-  EXPECT_EQ(fehler.Grund, "Einlesen hinter Dateiende");
+  const Gelesen kurz(ganz.substr(0, schnitt));
+  EXPECT_FALSE(kurz.ok);
+  EXPECT_EQ(kurz.fehler.Grund, "Einlesen hinter Dateiende");
+  const ProjectState& s = kurz.s;
   EXPECT_EQ(s.Modell.EOSIndex, 14);     // read before the break
   EXPECT_FALSE(s.Modell.KonzeptGlobal); // the last item read
   EXPECT_EQ(s.Referenz.RefArt, 1);      // not reached: as before
 
   std::string falsch = ganz;
   falsch.replace(falsch.find("1234"), 4, "viel");
-  InitProjectState(s);
-  EXPECT_FALSE(Lesen(falsch, s, kopf, fehler));
-  EXPECT_EQ(fehler.Grund, "Typen unverträglich");
-  EXPECT_EQ(fehler.Zeile, 10u);
-  EXPECT_FALSE(s.Optionen.KurveTpBeschraenkt); // the item before the bad one
+  const Gelesen g(falsch);
+  EXPECT_FALSE(g.ok);
+  EXPECT_EQ(g.fehler.Grund, "Typen unverträglich");
+  EXPECT_EQ(g.fehler.Zeile, 10u);
+  EXPECT_FALSE(g.s.Optionen.KurveTpBeschraenkt); // the item before the bad one
 
   // A head of fewer than three lines ends before the database.
-  ListenLeser kurz("nur\r\nzwei");
-  EXPECT_FALSE(LeseKopfAnfang(kurz, kopf, fehler));
+  EXPECT_FALSE(Gelesen("nur\r\nzwei").ok);
 }
 
 TEST(ProjektDatei, DatabaseKindAndLastSessionAreReadFromTheNames) {
