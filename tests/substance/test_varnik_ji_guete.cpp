@@ -27,19 +27,14 @@ void Bereich(const ProjectState& s, const TGrenzen& g, double& von, double& bis)
   bis = std::min(cubpar::TrMax * s.Stoff.TKrit, g.THi > 0 ? static_cast<double>(g.THi) : 1e9);
 }
 
+// Limits of the stored vapour-pressure equations, by their row (Antoine low and high, Frost/Kalkwarf,
+// Wagner); none for the others.
 TGrenzen DampfdruckGrenzen(const ProjectState& s) {
-  switch (s.Modell.DampfdruckIndex) {
-  case FrostKalkwarfDB:
-    return s.Stoff.FrostKalkwarfGrenzen;
-  case WagnerDB:
-    return s.Stoff.WagnerGrenzen;
-  case AntoineNiederdruck:
-    return s.Stoff.AntoineNdGrenzen;
-  case AntoineHochdruck:
-    return s.Stoff.AntoineHdGrenzen;
-  default:
-    return {};
-  }
+  const StoffGruppe& st = s.Stoff;
+  const TGrenzen zeilen[] = {
+      {}, st.AntoineNdGrenzen, st.AntoineHdGrenzen, st.FrostKalkwarfGrenzen, st.WagnerGrenzen};
+  const int i = s.Modell.DampfdruckIndex;
+  return i >= 0 && i <= WagnerDB ? zeilen[i] : TGrenzen{};
 }
 
 // Largest relative deviation of the program's own saturation pressure (or liquid density, the
