@@ -4,13 +4,16 @@
 
 #include "core/project_state.h"
 #include "dienste/skript_oberflaeche.h"
+#include "engine/eos_auswertung.h"
 #include "engine/eos_parameter.h"
+#include "engine/kubisch.h"
 #include "engine/saettigung.h"
 #include "engine/zustand.h"
 #include "support/temp_ordner.h"
 
 #include <array>
 #include <cstdint>
+#include <gtest/gtest.h>
 #include <string>
 
 namespace quor::test {
@@ -88,6 +91,16 @@ inline Loesung Loese(ProjectState& s, double T, double p) {
   VzuTP(s, T, p, s.EOS.Gebiet, l.istL, l.istV, l.rhoV, l.rhoL, l.vV, l.vL, l.nRoots, l.Imbalance, l.A, l.B,
         l.Meldung, l.err);
   return l;
+}
+
+// The equal-area imbalance of the loop at (T, p), which must have three roots there.
+inline double Flaechenbilanz(ProjectState& s, double T, double p) {
+  EOSbeiT(s, T);
+  int16_t n = 0, err = 0;
+  KubischeWurzeln(s, T, p, n, err);
+  EXPECT_EQ(n, 3) << p;
+  double A = 0, B = 0;
+  return GleichgewichtsFlaeche(s, T, p, A, B, err);
 }
 
 inline double Saettigungsdruck(ProjectState& s, double T, int16_t& err) {

@@ -1,7 +1,6 @@
 // Enthalpy of vaporization from states of the EOS against Clausius-Clapeyron, and the route through
 // the slope of the vapour-pressure equation with the compressibility factors.
 #include "engine/korrelationen.h"
-#include "engine/kubisch.h"
 #include "kalorik_hilfen.h"
 #include "support/relativ.h"
 
@@ -13,28 +12,19 @@ namespace {
 
 using namespace quor::test;
 
-double Imbalance(ProjectState& s, double T, double p) {
-  EOSbeiT(s, T);
-  int16_t n = 0, err = 0;
-  KubischeWurzeln(s, T, p, n, err);
-  EXPECT_EQ(n, 3);
-  double A = 0, B = 0;
-  return GleichgewichtsFlaeche(s, T, p, A, B, err);
-}
-
 // The saturation pressure to the last digits: a secant on the equal-area imbalance, started from
 // the solver's value (whose tolerance of 1e-5 on the imbalance is too coarse for differences).
 double GenauerDampfdruck(ProjectState& s, double T) {
   int16_t err = 0;
   double p1 = Saettigungsdruck(s, T, err), p0 = p1 * (1 + 1e-4);
   EXPECT_EQ(err, 0);
-  double f0 = Imbalance(s, T, p0), f1 = Imbalance(s, T, p1);
+  double f0 = Flaechenbilanz(s, T, p0), f1 = Flaechenbilanz(s, T, p1);
   for (int i = 0; i < 50 && f1 != f0; ++i) {
     const double p2 = p1 - f1 * (p1 - p0) / (f1 - f0);
     p0 = p1;
     f0 = f1;
     p1 = p2;
-    f1 = Imbalance(s, T, p1);
+    f1 = Flaechenbilanz(s, T, p1);
     if (std::fabs(p1 - p0) < 1e-14 * p1) break;
   }
   return p1;

@@ -90,17 +90,6 @@ TEST(IdealgasFunktionen, SinhCoshFormEndsAtOneTenthKelvin) {
   EXPECT_TRUE(std::isfinite(h) && std::isfinite(sIdG));
 }
 
-// Without a cp function only hRef and sRef are added to what the arguments hold.
-TEST(IdealgasFunktionen, WithoutCpOnlyTheReferenceValuesAreAdded) {
-  ProjectState s = MitSatz(Saetze[0]);
-  s.Modell.CpIndex = 0;
-  double h = 100, sIdG = 1, cp = 9;
-  int16_t err = -1;
-  IdealgasFunktionen(s, 400, 500, h, sIdG, cp, err);
-  EXPECT_EQ(err, 0);
-  EXPECT_EQ(std::tie(h, sIdG, cp), std::make_tuple(600.0, 8.0, 0.0));
-}
-
 // Formation quantities: at To = 298.15 K and po = 101.325 kPa (as the state holds them, single
 // precision) h and s are hBildung and sBildung, whatever TRef and pRef held. The conventional
 // normalisation takes s0 = (hBildung - gBildung)/298.15; user values keep their TRef.
