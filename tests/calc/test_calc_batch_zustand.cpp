@@ -22,24 +22,19 @@ using namespace quor::test;
 // Kind 3 in the vapour, the compressed liquid, above the critical point and at it: phases and volumes
 // are the solver's; the region follows the comparison with the critical point.
 TEST(CalcBatchZustand, Kind3ShowsTheSolverStateInEveryPhase) {
-  struct Fall {
-    const char* name;
-    double T, p;
-    bool L, V;
-    int16_t gebiet;
-  };
-  for (const Fall& f :
-       {Fall{"art3_dampf", 150, 500, false, true, 0}, Fall{"art3_fluessig", 120, 2000, true, false, 0},
-        Fall{"art3_ueberkritisch", 250, 6000, true, true, 2},
-        Fall{"art3_kritisch", 190.56, 4599, true, true, 4}}) {
-    SCOPED_TRACE(f.name);
+  // page, T, p, liquid, vapour, region
+  for (const auto& [name, T, p, L, V, gebiet] : {std::tuple{"art3_dampf", 150.0, 500.0, false, true, 0},
+                                                 {"art3_fluessig", 120.0, 2000.0, true, false, 0},
+                                                 {"art3_ueberkritisch", 250.0, 6000.0, true, true, 2},
+                                                 {"art3_kritisch", 190.56, 4599.0, true, true, 4}}) {
+    SCOPED_TRACE(name);
     Rechnung r(StoffMitModell(CasMethan, 6));
-    const Zustand d = Loese(r.s, f.T, f.p);
-    r.Vorgabe(f.T, f.p).Rechne(3);
-    EXPECT_EQ(std::tie(r.k.HatL, r.k.HatV, r.s.EOS.Gebiet), std::tie(f.L, f.V, f.gebiet));
-    EXPECT_EQ(r.Zelle(ZelleVV), f.V ? d.vV : 0);
-    EXPECT_EQ(r.Zelle(ZelleVL), f.L ? d.vL : 0);
-    WieGespeichert(r.seite, f.name);
+    const Zustand d = Loese(r.s, T, p);
+    r.Vorgabe(T, p).Rechne(3);
+    EXPECT_EQ(std::tie(r.k.HatL, r.k.HatV, r.s.EOS.Gebiet), std::tuple(L, V, gebiet));
+    EXPECT_EQ(r.Zelle(ZelleVV), V ? d.vV : 0);
+    EXPECT_EQ(r.Zelle(ZelleVL), L ? d.vL : 0);
+    WieGespeichert(r.seite, name);
   }
 }
 

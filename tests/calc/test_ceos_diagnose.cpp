@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace quor {
 namespace {
 
@@ -31,20 +33,16 @@ LetzterZustand DreiWurzeln(bool hatL, bool hatV) {
 // phase that exists, and both stable at equilibrium.
 TEST(CEOSDiagnose, ThreeRootsCarryTheirStability) {
   const ProjectState s = Kubisch();
-  struct Fall {
-    bool L, V;
-    const char *erste, *dritte;
-  };
-  for (const Fall& f : {Fall{false, true, "(metastabil)", "(stabil, V-Phase)"},
-                        Fall{true, false, "(stabil, L-Phase)", "(metastabil)"},
-                        Fall{true, true, "(stabil, L-Phase)", "(stabil, V-Phase)"}}) {
-    const LetzterZustand z = DreiWurzeln(f.L, f.V);
+  for (const auto& [L, V, erste, dritte] : {std::tuple{false, true, "(metastabil)", "(stabil, V-Phase)"},
+                                            {true, false, "(stabil, L-Phase)", "(metastabil)"},
+                                            {true, true, "(stabil, L-Phase)", "(stabil, V-Phase)"}}) {
+    const LetzterZustand z = DreiWurzeln(L, V);
     frmCEOSDiagnose d(s, z);
     d.Form_Load();
     EXPECT_EQ(d.pctEOS, frmCEOSDiagnose::Bild::DreiWurzelnUnterkritisch);
-    EXPECT_EQ(d.Wurzeln, (std::vector<std::string>{std::string("v(1) = 0.09 m^3/kmol   ") + f.erste,
+    EXPECT_EQ(d.Wurzeln, (std::vector<std::string>{std::string("v(1) = 0.09 m^3/kmol   ") + erste,
                                                    "v(2) = 0.3 m^3/kmol   (instabil)",
-                                                   std::string("v(3) = 2 m^3/kmol   ") + f.dritte}));
+                                                   std::string("v(3) = 2 m^3/kmol   ") + dritte}));
   }
   const LetzterZustand z = DreiWurzeln(false, true);
   frmCEOSDiagnose d(s, z);

@@ -58,21 +58,6 @@ TEST(ProjectStateInit, RunsTheEOSSetUpForTheVolumePreset) {
   EXPECT_EQ(std::tie(t.Einheiten.vVorgabe, t.Einheiten.TVorgabe), std::tuple(0.5f, 300.0f));
 }
 
-// The name lists are padded to the width of their columns, counted in characters.
-TEST(NameTables, RowsHaveTheWidthOfTheirColumn) {
-  ProjectState s;
-  InitProjectState(s);
-  const Tabellen& t = s.Tab;
-  const auto breite = [](const auto& tabelle, std::size_t n) {
-    for (const auto& r : tabelle)
-      EXPECT_EQ(Utf8Laenge(r), n) << r;
-  };
-  breite(t.EOSNamen, 35);
-  breite(t.HLVNamen, 35);
-  breite(t.AbleitungsLabels, 14);
-  EXPECT_EQ(DampfdruckTagVon(9), "000"); // beyond the table: none
-}
-
 class Einheiten : public ::testing::Test {
 protected:
   void SetUp() override {
