@@ -78,10 +78,11 @@ TEST(DatenbankOeffnen, CountZeroIsAnEmptyDatabaseNotABrokenOne) {
   EXPECT_EQ(std::tie(failed, leer, s.Datenbank.DatenbankGeladen), std::make_tuple(0, true, false));
 }
 
-// Each broken file: its bytes.
+// Each broken file: its bytes, or none at all.
 struct KaputteDatei {
   const char* name;
   std::string bytes;
+  bool fehlt = false;
 };
 
 std::vector<KaputteDatei> KaputteDateien() {
@@ -92,50 +93,41 @@ std::vector<KaputteDatei> KaputteDateien() {
       {"Anzahl groesser als die Datei", RohDatei(7, 5, {Stoff(7, 1, "CH4", "Methan", "74-82-8")})},
       {"letzter Satz abgeschnitten", gut.substr(0, gut.size() - 1)},
       {"negative Anzahl", RohDatei(7, -3, {})},
+      {"Anzahl 0", RohDatei(7, 0, {})},
+      {"fehlende Datei", "", true},
   };
 }
 
-TEST(DatenbankOeffnen, BrokenFilesFailWithTheMessageWhenNothingIsLoaded) {
+// A broken file ends in the error when nothing is loaded and in the warning when a database is held,
+// which stays in use.
+TEST(DatenbankOeffnen, BrokenFilesFailAndKeepTheEarlierDatabase) {
   TempOrdner dir;
+  const std::string gut = dir.Schreibe("GUT.Q07", ZweiStoffe(7));
   for (const KaputteDatei& k : KaputteDateien()) {
     SCOPED_TRACE(k.name);
+    const std::string pfad = k.fehlt ? dir.Datei("FEHLT.Q07") : dir.Schreibe("K.Q07", k.bytes);
     ProjectState s;
     ui::SkriptOberflaeche ui;
-    const std::string pfad = dir.Schreibe("K.Q07", k.bytes);
     EXPECT_FALSE(DatenbankOeffnen(s, 7, pfad, ui));
     ASSERT_EQ(ui.Meldungen().size(), 1u);
-    EXPECT_EQ(ui.Letzte().text, "Datenbank " + pfad + " nicht gefunden bzw. leer");
-    EXPECT_EQ(ui.Letzte().titel, "Ausführung nicht möglich");
-    EXPECT_EQ(ui.Letzte().symbol, ui::Symbol::Kritisch);
-    EXPECT_FALSE(s.Datenbank.DatenbankGeladen);
-    EXPECT_EQ(s.Datenbank.StoffAnzahl, 0);
-  }
-}
+    const auto fehler = ui.Letzte();
+    EXPECT_EQ(std::tie(fehler.text, fehler.titel, fehler.symbol),
+              std::make_tuple("Datenbank " + pfad + " nicht gefunden bzw. leer", "Ausführung nicht möglich",
+                              ui::Symbol::Kritisch));
+    EXPECT_EQ(std::tie(s.Datenbank.DatenbankGeladen, s.Datenbank.StoffAnzahl), std::make_tuple(false, 0));
 
-TEST(DatenbankOeffnen, BrokenOrMissingFileKeepsTheEarlierDatabase) {
-  TempOrdner dir;
-  ProjectState s;
-  ui::SkriptOberflaeche ui;
-  const std::string gut = dir.Schreibe("GUT.Q07", ZweiStoffe(7));
-  ASSERT_TRUE(DatenbankOeffnen(s, 7, gut, ui));
-  std::vector<KaputteDatei> faelle = KaputteDateien();
-  faelle.push_back({"Anzahl 0", RohDatei(7, 0, {})});
-  for (const KaputteDatei& k : faelle) {
-    SCOPED_TRACE(k.name);
-    const std::string pfad = dir.Schreibe("K.Q07", k.bytes);
+    ASSERT_TRUE(DatenbankOeffnen(s, 7, gut, ui));
     EXPECT_FALSE(DatenbankOeffnen(s, 7, pfad, ui));
-    EXPECT_EQ(ui.Letzte().text, "Datenbank " + pfad +
-                                    " im QUOR-Verzeichnis nicht gefunden bzw. leer.\r\n"
-                                    "Bereits geladene Datenbank wird weiter verwendet.");
-    EXPECT_EQ(ui.Letzte().symbol, ui::Symbol::Ausruf);
-    EXPECT_EQ(s.Datenbank.PfadQ07, gut);
+    const auto warnung = ui.Letzte();
+    EXPECT_EQ(std::tie(warnung.text, warnung.titel, warnung.symbol),
+              std::make_tuple("Datenbank " + pfad +
+                                  " im QUOR-Verzeichnis nicht gefunden bzw. leer.\r\n"
+                                  "Bereits geladene Datenbank wird weiter verwendet.",
+                              "Warnung", ui::Symbol::Ausruf));
     int16_t failed = 0;
     LadeStoff(s, 2, failed);
-    EXPECT_EQ(s.Stoff.StoffName, "Glykol");
+    EXPECT_EQ(std::tie(s.Datenbank.PfadQ07, s.Stoff.StoffName), std::make_tuple(gut, "Glykol"));
   }
-  EXPECT_FALSE(DatenbankOeffnen(s, 7, dir.Pfad() + "/FEHLT.Q07", ui));
-  EXPECT_EQ(ui.Letzte().titel, "Warnung");
-  EXPECT_EQ(s.Datenbank.PfadQ07, gut);
 }
 
 TEST(DatenbankOeffnen, GarbageTextBytesBecomeCharactersAndNothingBreaks) {
