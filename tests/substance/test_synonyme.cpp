@@ -37,17 +37,19 @@ struct Suche {
 // One case of each kind of rule: the umlaut of an old spelling, K and Z for C, ph for f, the short
 // forms, umlauts spelt out, and what is dropped from the key.
 TEST(NameNormieren, BringsEachGermanSpellingToTheCSpelling) {
-  const std::vector<std::pair<std::string, std::string>> faelle{{"Äthan", "ETHAN"},
-                                                                {"Karbonat", "CARBONAT"},
-                                                                {"Zyklohexan", "CYCLOHEXAN"},
-                                                                {"Sulphid", "SULFID"},
-                                                                {"sek-Butanol", "SECBUTANOL"},
-                                                                {"Essigsaeure", "ESSIGSÄURE"},
-                                                                {"Me-Ethylketon", "METHYLETHYLKETON"},
-                                                                {"(R)-2-[Chlor].methan", "R2CHLORMETHAN"},
-                                                                {"Methyl propan", "METHYLPROPAN"}};
+  const char* const faelle[][2] = {{"Äthan", "ETHAN"},
+                                   {"Karbonat", "CARBONAT"},
+                                   {"Zyklohexan", "CYCLOHEXAN"},
+                                   {"Sulphid", "SULFID"},
+                                   {"sek-Butanol", "SECBUTANOL"},
+                                   {"Essigsaeure", "ESSIGSÄURE"},
+                                   {"Me-Ethylketon", "METHYLETHYLKETON"},
+                                   {"(R)-2-[Chlor].methan", "R2CHLORMETHAN"},
+                                   {"Methyl propan", "METHYLPROPAN"}};
   for (const auto& [eingabe, schluessel] : faelle)
     EXPECT_EQ(NormalSchluessel(KlarSchluessel(eingabe)), schluessel) << eingabe;
+  EXPECT_EQ(KlarSchluessel(" 74-82-8 "), "74-82-8"); // a CAS number keeps its hyphens
+  EXPECT_EQ(GrossSchreibung("ä ö ü é ß x÷"), "Ä Ö Ü É ß X÷");
 }
 
 TEST(NameNormieren, ReplacesOxydUnlessAnOxydiStandsInTheText) {
@@ -57,11 +59,6 @@ TEST(NameNormieren, ReplacesOxydUnlessAnOxydiStandsInTheText) {
   EXPECT_EQ(NormalSchluessel("OXYDHYDROXYDIETHYL"), "OXYDHYDROXYDIETHYL");
   // Once the last "OXYD" is gone the loop ends; an "OXYDI" made by it cannot occur.
   EXPECT_EQ(NormalSchluessel("DIOXYD"), "DIOXID");
-}
-
-TEST(NameNormieren, KeepsTheCasNumberInThePlainKey) {
-  EXPECT_EQ(KlarSchluessel(" 74-82-8 "), "74-82-8");
-  EXPECT_EQ(GrossSchreibung("ä ö ü é ß x÷"), "Ä Ö Ü É ß X÷");
 }
 
 TEST(NameNormieren, FindsBlocksBySynonymOrCasNumber) {
@@ -74,12 +71,10 @@ TEST(NameNormieren, FindsBlocksBySynonymOrCasNumber) {
   EXPECT_FALSE(missing);
   // The CAS line against the plain key; hyphens of a synonym line don't count; a synonym of another
   // length is never a hit, neither as a prefix nor extended; nothing behind the "END" line.
-  for (const auto& [text, cas] : {std::pair{"74-82-8", "74-82-8"},
-                                  {"Sumpfgas", "74-82-8"},
-                                  {"Me-Ethylketon", "78-93-3"},
-                                  {"Metha", "END"},
-                                  {"Methanes", "END"},
-                                  {"Hinterdemende", "END"}})
+  const char* const faelle[][2] = {{"74-82-8", "74-82-8"},       {"Sumpfgas", "74-82-8"},
+                                   {"Me-Ethylketon", "78-93-3"}, {"Metha", "END"},
+                                   {"Methanes", "END"},          {"Hinterdemende", "END"}};
+  for (const auto& [text, cas] : faelle)
     EXPECT_EQ(suche.CAS(text), cas) << text;
   EXPECT_TRUE(suche.ui.protokoll.empty());
 
@@ -104,7 +99,6 @@ TEST(NameNormieren, ReportsAMissingFile) {
 }
 
 TEST(FindSynonymVonCAS, GivesTheBlockOfANumber) {
-  EXPECT_EQ(BeschreibungsTeile("CH4_Methane_Methan"), (std::vector<std::string>{"Methan", "CH4", "Methane"}));
   EXPECT_EQ(BeschreibungsTeile("C4H8O_Methyl ethyl ketone_"),
             (std::vector<std::string>{"Methyl ethyl ketone", "C4H8O"}));
   EXPECT_EQ(BeschreibungsTeile("A_B_C_D"), (std::vector<std::string>{"C_D", "A", "B"}));
