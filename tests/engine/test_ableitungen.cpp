@@ -1,7 +1,6 @@
-// Derivatives of the EOS against finite differences: the temperature derivatives of its constants,
-// those of p(T,v), v(T,p) and T(p,v), the mechanical coefficients; the inflection points of the isotherm.
+// Mechanical derivatives of the EOS against finite differences of p(T,v), v(T,p) and T(p,v); the
+// mechanical coefficients; the inflection points of the isotherm.
 #include "engine/ableitungen.h"
-#include "engine/eos_auswertung.h"
 #include "kalorik_hilfen.h"
 #include "support/relativ.h"
 
@@ -100,44 +99,6 @@ TEST(WendepunkteSuchen, InflectionPointsOfTheIsotherm) {
       const double d1 = (Druck(w, T, v + h) - Druck(w, T, v - h)) / (2 * h);
       const double d2 = (Druck(w, T, v + h) - 2 * Druck(w, T, v) + Druck(w, T, v - h)) / (h * h);
       EXPECT_LT(std::fabs(d2), 1e-5 * std::fabs(d1) / v) << index;
-    }
-  }
-}
-
-// Central differences with h = 1e-4*T, compared within 1e-6 of the larger of the derivative and the
-// quantity over T (or T^2): the derivatives of a constant are 0.
-void PruefeAbleitungen(ProjectState& s, double T) {
-  const double h = 1e-4 * T;
-  std::array<std::array<double, 5>, 3> w{}; // a, b, c, d, a/(R*T) at T - h, T, T + h
-  for (int i = 0; i < 3; ++i) {
-    const double t = T + (i - 1) * h;
-    EOSbeiT(s, t);
-    w[i] = {s.EOS.aT, s.EOS.bT, s.EOS.cT, s.EOS.dT, s.EOS.aT / (RGas * t)};
-  }
-  EOSbeiT(s, T); // the derivatives read aT..dT of the same T
-  EOSAbleitungen abl;
-  int16_t err = 0;
-  EOSAbleitungenT(s, T, abl, err);
-  ASSERT_EQ(err, 0);
-  const double erste[] = {abl.da, abl.db, abl.dc, abl.dd, abl.A1};
-  const double zweite[] = {abl.d2a, abl.d2b, abl.d2c, abl.d2d, abl.A2};
-  for (int k = 0; k < 5; ++k) {
-    const double d1 = (w[2][k] - w[0][k]) / (2 * h), d2 = (w[2][k] - 2 * w[1][k] + w[0][k]) / (h * h);
-    EXPECT_NEAR(erste[k], d1, 1e-6 * std::max(std::fabs(d1), std::fabs(w[1][k]) / T)) << "first " << k;
-    EXPECT_NEAR(zweite[k], d2, 1e-6 * std::max(std::fabs(d2), std::fabs(w[1][k]) / (T * T)))
-        << "second " << k;
-  }
-}
-
-TEST(EOSAbleitungenT, MatchCentralDifferencesForEveryCubicRow) {
-  for (const StoffDaten& stoff : {Methan, Wasser}) {
-    for (int16_t index : KubischeZeilen) {
-      ProjectState s = ZustandMit(stoff, index);
-      // Below and above Tc: the Varnik/Ji alpha changes its form there.
-      for (double Tr : {0.45, 0.8, 1.3, 2.5}) {
-        SCOPED_TRACE(std::string(stoff.name) + " " + std::to_string(index) + " " + std::to_string(Tr));
-        PruefeAbleitungen(s, Tr * stoff.TKrit);
-      }
     }
   }
 }
