@@ -7,7 +7,6 @@
 #include "engine/ableitungen.h"
 #include "engine/eos_auswertung.h"
 #include "engine/kalorik.h"
-#include "engine/virial.h"
 #include "support/relativ.h"
 
 #include <gtest/gtest.h>
@@ -76,26 +75,6 @@ TEST(CalcBatchFunktionen, Kind8InSpecificUnits) {
   EXPECT_NE(t.find("Ableitungen nach T, p, V(spezif.)"), std::string::npos);
   EXPECT_NE(t.find(" (dp/dV) bei T : " + FormatVB(d.tab.Abl1[PhaseV][1] * M, Format)), std::string::npos);
   EXPECT_NE(t.find(FestText("Entropie", 17) + "s / (kJ/(kg K) = "), std::string::npos);
-}
-
-// The fugacity block alone, for a two-phase state of kind 1: both columns of JT coefficients, no
-// derivatives and no inflection points.
-TEST(CalcBatchFunktionen, FugacityBlockOfBothPhases) {
-  Rechnung r(StoffMitModell(CasMethan, 6));
-  r.k.Abschnitte = 2;
-  r.Vorgabe(150, 0, 100).Rechne(1);
-  KalorikTabellen tab;
-  int16_t err = 0;
-  for (int row : {PhaseL, PhaseV})
-    PhiFunktionen(r.s, row, 150, r.p, r.Zelle(row == PhaseL ? ZelleVL : ZelleVV), tab.Abl1, tab.Abl2,
-                  tab.ResFunk, err);
-  const std::string& t = r.seite.Liste.text;
-  EXPECT_NE(t.find(" (Joule-Thomson-Koeff. [K/kPa]):\r\n" + std::string(17, ' ') +
-                   FormatVB(tab.ResFunk[PhaseL][7], Format) + std::string(18, ' ') +
-                   FormatVB(tab.ResFunk[PhaseV][7], Format) + "\r\n"),
-            std::string::npos);
-  EXPECT_EQ(t.find("Ableitungen nach"), std::string::npos);
-  EXPECT_EQ(t.find("Wendepunkt"), std::string::npos);
 }
 
 } // namespace

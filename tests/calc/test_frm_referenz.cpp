@@ -50,28 +50,6 @@ TEST(frmReferenz, ProposesTheReferencePressureFromTheEquation) {
   EXPECT_EQ(gesetzt.s.Referenz.pRef, 50.0f);
 }
 
-// h and s are shown in the energy unit of the display, with TRef (not TVorgabe) in h/(R T).
-TEST(frmReferenz, ShowsReferenceValuesInTheEnergyUnit) {
-  const std::array<std::pair<const char*, const char*>, 4> labels{{{"h /(kJ/kmol)", "s /(kJ/kmol/K)"},
-                                                                   {"h /K", "s /R"},
-                                                                   {"h /(R T)", "s /(1/K) "},
-                                                                   {"h /(kJ/kg)", "s /(kJ/(kg K))"}}};
-  const ProjectState wasser = StoffMitModell(CasWasser, 6);
-  const std::array<double, 4> faktoren{1, 1 / RGas, 1 / (300 * RGas), 1 / wasser.Stoff.MolMasse};
-  for (int16_t mode = 0; mode < 4; ++mode) {
-    Dialog d(wasser);
-    d.s.Einheiten.EnergieMode = mode;
-    d.s.Einheiten.TVorgabe = 500;
-    d.s.Referenz.TRef = 300;
-    d.s.Referenz.hRef = 1000;
-    d.s.Referenz.sRef = 10;
-    d.frm.Form_Load();
-    EXPECT_EQ(std::tie(d.frm.bz7[0], d.frm.bz7[1]), std::tuple(labels[mode].first, labels[mode].second));
-    EXPECT_REL(d.frm.Faktor, faktoren[mode], 1e-6);
-    EXPECT_EQ(d.frm.T[1], SingleText(static_cast<float>(10 * d.frm.Faktor)));
-  }
-}
-
 // The conventional normalisation needs h and g of formation, the formation reference h and s; the
 // kind in the state is the selected option. Option 1 sets To and po at once; the four reference
 // fields are editable only under option 0.

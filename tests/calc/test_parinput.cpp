@@ -53,8 +53,6 @@ TEST(frmParinput, FieldsByWhatTheDialogIsFor) {
   Eingabe behaelter(33);
   EXPECT_TRUE(behaelter.frm.Felder[1].enabled && !behaelter.frm.Felder[2].enabled);
   behaelter.frm.optm_n_Click(1);
-  EXPECT_FALSE(behaelter.frm.Felder[1].enabled);
-  EXPECT_TRUE(behaelter.frm.Felder[2].enabled);
   behaelter.s.Modell.RechnungGlobal = false;
   behaelter.frm.Form_Load();
   EXPECT_FALSE(behaelter.frm.Felder[1].enabled); // the choice of amount is kept
