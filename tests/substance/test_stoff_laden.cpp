@@ -24,7 +24,7 @@ RohSatz Vollstaendig(int typ) {
   r.Zelle(0, 18.01528f).Zelle(6, 647.096049f).Zelle(7, 22064.06f).Zelle(8, 322.f).Zelle(9, 0.3443f);
   r.Zelle(10, 373.15f).Zelle(85, -241818.f).Zelle(87, -228572.f).Zelle(89, 188.84f);
   r.Zelle(91, 273.16f).Zelle(92, 0.6117f).Zelle(93, 273.15f);
-  r.Zelle(21, 273.5f).Zelle(22, 274.5f); // limits round half to even: 274, 274
+  r.Zelle(21, 273.5f).Zelle(22, 274.5f);
   r.Zelle(33, 273.f).Zelle(34, 647.f).Zelle(39, 274.f).Zelle(40, 373.f).Zelle(45, 373.f).Zelle(46, 600.f);
   r.Zelle(58, 275.f).Zelle(59, 646.f).Zelle(66, 100.f).Zelle(67, 1500.f).Zelle(74, 100.f).Zelle(75, 2000.f);
   r.Zelle(69, 33.3f).Zelle(71, -2610.5f);
@@ -58,20 +58,13 @@ TEST(StoffLaden, CellsGoToTheirFieldsWithTheDerivedValues) {
   EXPECT_DOUBLE_EQ(st.vKritExp, 18.0153f / 322.0);
   EXPECT_DOUBLE_EQ(st.omega, 0.3443f);
   EXPECT_FLOAT_EQ(st.DeltaFs, (-241818.f + 228572.f) / 298.15f);
-  EXPECT_EQ(st.sBildung, 188.84f);
-  EXPECT_EQ(st.TUntereGrenze, 273.15f);
-  EXPECT_EQ(std::tie(st.RhoLGrenzen.TLo, st.RhoLGrenzen.THi), std::make_tuple(274, 274));
-  EXPECT_EQ(st.RhoL[0], 1013.f);
-  EXPECT_EQ(st.RhoLTcr, 1020.f);
-  EXPECT_EQ(st.FrostKalkwarf[8], 1032.f); // the other vapour-pressure blocks: water's boiling point
-  EXPECT_EQ(st.CpPoly[4], 1065.f);
-  EXPECT_EQ(st.CpL[0], 276.f);
-  EXPECT_EQ(st.HLV[5], 1101.f);
-  EXPECT_EQ(st.HLVTcr, 1102.f);
-  EXPECT_EQ(st.HLVGrenzen.THi, 1104);
-  EXPECT_EQ(st.CpS[4], 1114.f);
-  EXPECT_EQ(st.RhoS[3], 1121.f);
-  EXPECT_EQ(st.RhoSGrenzen.THi, 1123);
+  EXPECT_EQ(std::tie(st.sBildung, st.TUntereGrenze), std::make_tuple(188.84f, 273.15f));
+  // One cell of each block and limit; the stored vapour-pressure blocks show at water's boiling point.
+  EXPECT_EQ(std::tie(st.RhoL[0], st.RhoLTcr, st.FrostKalkwarf[8], st.CpPoly[4], st.CpL[0], st.HLV[5],
+                     st.HLVTcr, st.CpS[4], st.RhoS[3]),
+            std::make_tuple(1013.f, 1020.f, 1032.f, 1065.f, 276.f, 1101.f, 1102.f, 1114.f, 1121.f));
+  EXPECT_EQ(std::tie(st.RhoLGrenzen.TLo, st.RhoLGrenzen.THi, st.HLVGrenzen.THi, st.RhoSGrenzen.THi),
+            std::make_tuple(274, 274, 1104, 1123)); // the limits round half to even
   // August through (373.15 K, 101.325 kPa) and the critical point, computed independently:
   // B = 373.15*647.0961*ln(22064.0605/101.325)/(373.15 - 647.0961) = -4745.0577,
   // A = ln(22064.0605) - B/647.0961 = 17.334554.
