@@ -1,5 +1,4 @@
-// Shared by the caloric tests: a substance with a cp function, p(T, v), roots polished to the last
-// digits (differences are taken of them), quadrature, and short calls of the routines under test.
+// Shared by the caloric tests: a cp function, p(T, v), polished roots, quadrature, short calls.
 #pragma once
 
 #include "engine/kalorik.h"
@@ -57,8 +56,7 @@ inline double Integral(const std::function<double(double)>& f, double a, double 
   return summe * breite / 2;
 }
 
-// |ist - soll| within tol of the larger of |soll| and a scale of the quantity (second derivatives
-// may pass close to 0, where a pure relative test says nothing).
+// |ist - soll| within tol of the larger of |soll| and a scale (for derivatives passing close to 0).
 inline ::testing::AssertionResult Nahe(double ist, double soll, double tol, double skala) {
   if (std::fabs(ist - soll) <= tol * std::max(std::fabs(soll), skala)) return ::testing::AssertionSuccess();
   return ::testing::AssertionFailure() << ist << " vs " << soll << " (scale " << skala << ")";

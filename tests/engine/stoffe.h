@@ -1,5 +1,4 @@
-// Substances with very different constants, the model set-up and solver calls the engine tests
-// share.
+// Substances with very different constants, the model set-up and the solver calls the tests share.
 #pragma once
 
 #include "core/project_state.h"
@@ -41,8 +40,7 @@ inline std::string ProgrammOrdner() {
   return ordner.Pfad();
 }
 
-// A state with the substance and the model chosen as the model dialog does it, after the set-up.
-// The Varnik/Ji rows get a hand-made parameter set (the parameter program is not part of tests).
+// A state set up as the model dialog does it; the Varnik/Ji rows get a hand-made parameter set.
 inline ProjectState ZustandMit(const StoffDaten& d, int16_t index) {
   ProjectState s;
   InitProjectState(s);

@@ -1,5 +1,4 @@
-// Mechanical derivatives of the EOS against finite differences of p(T,v), v(T,p) and T(p,v); the
-// mechanical coefficients; the inflection points of the isotherm.
+// Derivatives of p(T,v), v(T,p) and T(p,v) against differences; the inflection points of the isotherm.
 #include "engine/ableitungen.h"
 #include "kalorik_hilfen.h"
 #include "support/relativ.h"

@@ -1,5 +1,4 @@
-// Set-up of the cubic models: critical-point conditions, the textbook constants of the
-// denominators, failure paths and the parameter report.
+// Set-up of the cubic models: critical point, textbook constants, failures, the parameter report.
 #include "core/zahlformat.h"
 #include "engine/eos_auswertung.h"
 #include "engine/kubisch.h"
@@ -76,8 +75,7 @@ TEST(EOSParameter, SetUpWipesHandInputAndSkipsMissingCriticalData) {
   EXPECT_TRUE(ui.Meldungen().empty());
 }
 
-// An overflowing set-up ends in the flag and its message, nothing of it kept. (The Varnik/Ji rows
-// without their parameter program fail with messages of their own, see the Varnik/Ji tests.)
+// An overflowing set-up ends in the flag and its message, nothing of it kept.
 TEST(EOSParameter, FailureBecomesTheFlagAndItsMessage) {
   ProjectState s = ZustandMit(Methan, 2);
   s.Stoff.TKrit = 1e200; // a0 overflows

@@ -1,5 +1,4 @@
-// Residual and caloric functions against independent routes: integrals of the EOS along the
-// isotherm, differences, definitions, the ideal gas, the exergies and saturation.
+// Residual and caloric functions against integrals of the EOS, differences and definitions.
 #include "engine/kubisch.h"
 #include "kalorik_hilfen.h"
 #include "support/relativ.h"

@@ -1,5 +1,4 @@
-// Enthalpy of vaporization from states of the EOS against Clausius-Clapeyron, and the route through
-// the slope of the vapour-pressure equation with the compressibility factors.
+// Enthalpy of vaporization from states of the EOS against Clausius-Clapeyron.
 #include "engine/korrelationen.h"
 #include "kalorik_hilfen.h"
 #include "support/relativ.h"
@@ -12,8 +11,7 @@ namespace {
 
 using namespace quor::test;
 
-// The saturation pressure to the last digits: a secant on the equal-area imbalance, started from
-// the solver's value (whose tolerance of 1e-5 on the imbalance is too coarse for differences).
+// The saturation pressure to the last digits (for differences): a secant on the imbalance.
 double GenauerDampfdruck(ProjectState& s, double T) {
   int16_t err = 0;
   double p1 = Saettigungsdruck(s, T, err), p0 = p1 * (1 + 1e-4);

@@ -1,5 +1,4 @@
-// The ideal-gas part: h and s against numerical integrals of cp and cp/T for every cp form, the
-// reference kinds with their constants, and the limits of the sinh/cosh form.
+// The ideal-gas part: h and s as integrals of cp and cp/T, the reference kinds, the sinh/cosh limit.
 #include "engine/referenz.h"
 #include "kalorik_hilfen.h"
 #include "support/relativ.h"

@@ -1,5 +1,4 @@
-// Vapour pressure, its inverse and its slope: every form and branch against literature points and
-// independent computations, the validity warnings, and the failures.
+// Vapour pressure, its inverse and its slope against literature points; warnings and failures.
 #include "dienste/skript_oberflaeche.h"
 #include "engine/korrelationen.h"
 #include "support/relativ.h"

@@ -1,5 +1,4 @@
-// Liquid and solid densities, the straight diameter, and the heat capacities: each form and branch
-// against literature values or hand-computed numbers.
+// Densities, the straight diameter and heat capacities against literature or hand-computed values.
 #include "dienste/skript_oberflaeche.h"
 #include "engine/korrelationen.h"
 #include "support/relativ.h"

@@ -1,5 +1,4 @@
-// Enthalpy of vaporization: the database function, the correlations with their rounding to whole
-// kJ/kmol, where T and p come from when they are not given, and the failures.
+// Enthalpy of vaporization from the database function and the correlations; missing T or p.
 #include "dienste/skript_oberflaeche.h"
 #include "engine/korrelationen.h"
 #include "support/relativ.h"

@@ -1,5 +1,4 @@
-// The PARTIAL reference point: Benson's approximation, the proposal by the data at hand on each of
-// its paths, with its report lines, and the validity flag.
+// The PARTIAL reference point: the proposal from the data at hand, Benson's point, the validity flag.
 #include "core/zahlformat.h"
 #include "engine/korrelationen.h"
 #include "engine/referenz.h"
@@ -62,8 +61,7 @@ TEST(PartialBezugspunkt, AtTheNormalBoilingPoint) {
   EXPECT_TRUE(Enthaelt(v.text, "\r\n rho(L)(ref)/kg/m^3 = 1234.165 (berechnet aus dRho/dT)\r\n"));
 }
 
-// Without a boiling point (or without a density there) the single density point gives T, and the
-// vapour-pressure equation p.
+// Without a boiling point (or a density there) the single density point gives T, the equation p.
 TEST(PartialBezugspunkt, SingleDensityPoint) {
   for (float TSiede : {0.0f, 373.15f}) {
     ProjectState s = Stoff(6, TSiede);

@@ -1,5 +1,4 @@
-// Every solver over a wide grid of states, models and substances: each call returns finite numbers
-// or its failure flag, never NaN or Inf.
+// Every solver over a wide grid of states, models and substances returns finite numbers or fails.
 #include "stoffe.h"
 
 #include <cmath>

@@ -100,8 +100,7 @@ TEST(pLVbeiT, RestartNearZeroStillFindsTheSaturationPressure) {
   EXPECT_EQ(err, 0);
 }
 
-// T -> p(LV) -> T(LV), and p -> T(LV) -> p(LV) on both sides of 0.02*pKrit (secant search above,
-// a coarser scanning search below).
+// T -> p(LV) -> T and p -> T(LV) -> p on both sides of 0.02*pKrit (secant above, a scan below).
 TEST(TLVbeiP, InvertsTheSaturationPressure) {
   for (int16_t index : {2, 5, 6, 8}) {
     ProjectState s = ZustandMit(Methan, index);

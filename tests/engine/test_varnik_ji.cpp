@@ -1,6 +1,4 @@
-// The exchange with the parameter program: the input file for every vapour-pressure block, the
-// removal of an old result, the start of the program, every way the set-up can fail, and the real
-// program: its result reaches JiParameter unchanged and a whole calculation works afterwards.
+// The exchange with the parameter program: its input file, its start, the failures, the real run.
 #include "core/datei_io.h"
 #include "engine/eos_parameter.h"
 #include "engine/varnik_ji.h"
@@ -75,8 +73,7 @@ TEST(JiParDatei, MatchesTheGoldenFileForEveryTag) {
   EXPECT_EQ(JiParDateiBytes(MethanFuerJi(8, "FRO", dir.Pfad())), erwartet.replace(0, 2, "11"));
 }
 
-// The numbers keep their decimal point under a locale with a decimal comma: the C++ locale gets a
-// comma facet, the C library one of the German locales where the machine has one.
+// The numbers keep their decimal point under a decimal-comma locale (C++ facet, German C locale).
 struct KommaPunkt : std::numpunct<char> {
   char do_decimal_point() const override { return ','; }
   char do_thousands_sep() const override { return '.'; }
