@@ -169,8 +169,6 @@ TEST(DatenbankOeffnen, FileDialogOffersTheKindAndCancelLoadsNothing) {
   ASSERT_EQ(ui.dateiDialoge.size(), 1u);
   EXPECT_EQ(ui.dateiDialoge[0].filter, "Datenbank (*.Q06|*.Q06");
   EXPECT_EQ(ui.dateiDialoge[0].titel.rfind("Datenbank *.Q06 laden (", 0), 0u);
-  EXPECT_TRUE(ui.Meldungen().empty());
-
   ui.dateien.push_back(dir.Schreibe("B.Q07", ZweiStoffe(7)));
   WaehleDatenbank(s, 7, cancelled, ui);
   EXPECT_FALSE(cancelled);

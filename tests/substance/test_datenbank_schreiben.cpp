@@ -104,7 +104,6 @@ TEST(DatenbankSchreiben, WithoutAnOldRecordTheRestIsBlank) {
   int16_t failed = 0;
   bool leer = false;
   LadeDatenbank(s, 7, "NEU.Q07", failed, leer);
-  ASSERT_EQ(failed, 0);
   LadeStoff(s, 1, failed);
   EXPECT_EQ(failed, 0);
   EXPECT_EQ(std::tie(s.Stoff.StoffName, s.Stoff.CASRN), std::make_tuple("Neu", ""));

@@ -49,13 +49,11 @@ TEST(KorrelierteParameter, NothingWithoutBoilingPointOrBelowIndexFive) {
     KorrelierteParameter(s, index, Tc, pc, 0);
   KorrelierteParameter(s, 8, 0, pc, Tb);
   KorrelierteParameter(s, 4, Tc, pc, Tb);
-  EXPECT_EQ(s.Stoff.KFW, (std::array<float, 9>{}));
-  EXPECT_EQ(s.Stoff.KFR, (std::array<float, 9>{}));
-  EXPECT_EQ(s.Stoff.THO, (std::array<float, 3>{}));
-  EXPECT_EQ(s.Stoff.AugustA, 0.0f);
   // With the boiling point equal to the critical temperature there is no finite set to store.
   KorrelierteParameter(s, 6, Tc, pc, Tc);
-  EXPECT_EQ(s.Stoff.KFW, (std::array<float, 9>{}));
+  const StoffGruppe leer;
+  EXPECT_EQ(std::tie(s.Stoff.KFW, s.Stoff.KFR, s.Stoff.THO, s.Stoff.AugustA),
+            std::tie(leer.KFW, leer.KFR, leer.THO, leer.AugustA));
 }
 
 } // namespace

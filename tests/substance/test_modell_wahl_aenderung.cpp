@@ -63,8 +63,6 @@ TEST(frmQModell, HandInputVirialModelAsksForItsCoefficients) {
   EXPECT_EQ(d.s.Projekt.StatusLeiste[3], "VIRIAL-EOS Hand-Eingabe");
 
   frmBParInput par(d.s);
-  EXPECT_STREQ(frmBParInput::Caption, "Eingabe Virialkoeffizient");
-  EXPECT_STREQ(frmBParInput::Formel, "B/m^3/kmol = b0 - b1/T^b2");
   par.Form_Load();
   EXPECT_EQ(par.par, (std::array<std::string, 3>{"0.02", "0", "0"}));
   par.par = {"0,05", "20", "1.5"};
