@@ -74,12 +74,10 @@ TEST(frmCalcIn, GlobalOnlyWithACubicModel) {
   Dialog virial(13, 4);
   virial.frm.Form_Load();
   virial.frm.opt_glob_Click(0);
-  ASSERT_EQ(virial.ui.Meldungen().size(), 1u);
   EXPECT_EQ(virial.ui.Letzte().text,
             "GLOBAL-Berechnung ist nur mit einer kubischen EOS möglich (=> Fenster \"Modelle\").");
   EXPECT_EQ(virial.ui.Letzte().titel, "Ausführung nicht möglich");
-  EXPECT_FALSE(virial.s.Modell.RechnungGlobal);
-  EXPECT_TRUE(virial.frm.PartialSichtbar);
+  EXPECT_TRUE(virial.frm.PartialSichtbar && !virial.s.Modell.RechnungGlobal);
 
   Dialog kubisch(6, 4);
   kubisch.frm.Form_Load();
