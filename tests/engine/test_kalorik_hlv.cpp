@@ -74,20 +74,15 @@ TEST(HLVAusEOS, MissingPressureOrTemperatureComesFromTheEquation) {
   EXPECT_EQ(erg.notizen, std::vector<std::string>{"p(LV) von EOS: Fehler -1"});
 }
 
-// Water with Peng/Robinson for the vapour, an Antoine equation and a linear liquid density.
-ProjectState WasserPartial() {
+// delta(LV)h = -R d(ln p)/d(1/T) (zV - zL), the slope as a central difference of ln p(LV) in 1/T;
+// water with Peng/Robinson for the vapour, an Antoine equation and a linear liquid density.
+TEST(HLVAusDichten, ClapeyronWithTheVapourPressureSlope) {
   ProjectState s = MitCp(Wasser, 6);
   s.Stoff.AntoineNd = {7.196213f, 1730.63f, 233.426f};
   s.Stoff.AntoineNdGrenzen = {274, 647};
   s.Modell.DampfdruckIndex = AntoineNiederdruck;
   s.Stoff.RhoL = {1300.0f, -0.95f, 373.15f, 0, 0, 0, 0}; // A + B T without a range
   s.Stoff.rhoKritExp = 322;
-  return s;
-}
-
-// delta(LV)h = -R d(ln p)/d(1/T) (zV - zL), the slope as a central difference of ln p(LV) in 1/T.
-TEST(HLVAusDichten, ClapeyronWithTheVapourPressureSlope) {
-  ProjectState s = WasserPartial();
   const double T0 = 373.15, M = Wasser.MolMasse;
   int16_t f = 0;
   const double pSoll = pLV(s, T0, AntoineNiederdruck, false, f);
