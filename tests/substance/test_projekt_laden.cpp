@@ -142,7 +142,7 @@ TEST_F(ProjektLadenTest, ASubstanceNotInTheDatabaseEndsTheLoadBeforeTheModels) {
   EXPECT_FALSE(s.Projekt.Freigaben.Stoff);
 }
 
-TEST_F(ProjektLadenTest, ATruncatedFileLeavesThePartlyUpdatedState) {
+TEST_F(ProjektLadenTest, ATruncatedOrMissingFileIsReportedWithThePartlyUpdatedState) {
   const std::string ganz = ProjektText(Quelle(), "heute");
   // Cut inside the model line: vapour-pressure equation and EOS are read, the cp equation is not.
   const std::size_t schnitt = ganz.find("8,6,1,2,") + 4;
@@ -160,12 +160,10 @@ TEST_F(ProjektLadenTest, ATruncatedFileLeavesThePartlyUpdatedState) {
   EXPECT_EQ(Laden(Datei("QuorLastSession.QC6", "heute\r\n<>\r\n")), -1);
   EXPECT_FALSE(s.Projekt.LetzteSitzung);
   EXPECT_EQ(ui.Letzte().text, "Meldung von Sub ProjektLaden:\r\nEinlesen hinter Dateiende (Zeile 3)");
-}
 
-TEST_F(ProjektLadenTest, AMissingFileIsReported) {
-  const std::string pfad = ordner.Datei("nichtda.QC6");
-  EXPECT_EQ(Laden(pfad), -1);
-  EXPECT_EQ(ui.Letzte().text, "Meldung von Sub ProjektLaden:\r\nDatei nicht gefunden\r\n" + pfad);
+  const std::string fehlt = ordner.Datei("nichtda.QC6");
+  EXPECT_EQ(Laden(fehlt), -1);
+  EXPECT_EQ(ui.Letzte().text, "Meldung von Sub ProjektLaden:\r\nDatei nicht gefunden\r\n" + fehlt);
 }
 
 TEST_F(ProjektLadenTest, ThePreviewShowsTheHeadWithTheSubstanceOfTheOpenDatabase) {

@@ -1,6 +1,5 @@
-// The default database and synonym file as the build puts them into the program directory, and the
-// small .Q06 fixture: they open, and their vapour-pressure equations pass the fixed points.
-#include "core/datei_io.h"
+// The default database as the build puts it into the program directory, and the small .Q06 fixture:
+// they open, and their vapour-pressure equations pass the fixed points.
 #include "engine/korrelationen.h"
 #include "substance/datenbank.h"
 #include "substance/stoff_laden.h"
@@ -57,16 +56,6 @@ TEST(Standarddatenbank, WaterBoilsAt373KelvinWithEveryEquationItHas) {
     const double toleranz = index == AntoineHochdruck ? 7e-3 : 5e-3;
     EXPECT_LT(Abweichung(s, index, 373.15, pNormal), toleranz) << "equation " << index;
   }
-}
-
-TEST(Standarddatenbank, SynonymFileIsWindows1252WithCrLfAndEndsWithEnd) {
-  std::string datei;
-  ASSERT_TRUE(LeseDateiBytes(ProgrammVerzeichnis + "/SYNOM7.TXT", datei));
-  EXPECT_EQ(datei.substr(0, 9), "74-82-8\r\n");
-  EXPECT_EQ(datei.substr(datei.size() - 5), "END\r\n");
-  EXPECT_NE(datei.find("\r\nKOHLENS\xC4URE\r\n"), std::string::npos); // one byte for the umlaut
-  for (std::size_t i = datei.find('\n'); i != std::string::npos; i = datei.find('\n', i + 1))
-    ASSERT_EQ(datei[i - 1], '\r') << "byte " << i;
 }
 
 TEST(Standarddatenbank, SmallOlderKindFixtureHoldsTheSameSubstances) {
