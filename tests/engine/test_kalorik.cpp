@@ -83,7 +83,7 @@ TEST(ThermoFunktionen, HeatCapacitiesAndSpeedOfSoundFollowTheirDefinitions) {
   }
 }
 
-// Ideal gas: no residual part at all, and cv = cp - R (sound speed of the ideal gas, sqrt(kappa R T/M)).
+// Ideal gas: no residual part at all, cp of the cp function (cv and w follow the definitions above).
 TEST(PhiFunktionen, IdealGasHasNoResidualPart) {
   ProjectState s = MitCp(Methan, 0);
   const double T = 300, p = 2000, v = RGas * T / p;
@@ -94,8 +94,6 @@ TEST(PhiFunktionen, IdealGasHasNoResidualPart) {
   int16_t err = 0;
   const double cp = cpIdealgas(s, T, 1, err);
   EXPECT_REL(r[9], cp, 1e-14);
-  EXPECT_REL(r[8], cp - RGas, 1e-12);
-  EXPECT_REL(r[10], std::sqrt(cp / (cp - RGas) * RGas * T * 1000 / Methan.MolMasse), 1e-12);
   EXPECT_LT(std::fabs(r[7]), 1e-15); // no Joule-Thomson effect: T (dV/dT)_p = v
 }
 
