@@ -89,9 +89,7 @@ TEST_F(ProjektLadenTest, TheLastSessionIsRecognisedByItsName) {
   q.Mess.BatchDateiTitel.clear();
   s.Mess.ExpAnzahl = 3; // held points stay: no batch file, no count
   ASSERT_EQ(Laden(Datei("QuorLastSession.QC6", ProjektText(q, "heute"))), 0);
-  EXPECT_TRUE(s.Projekt.LetzteSitzung);
-  EXPECT_EQ(batch, "");
-  EXPECT_EQ(s.Mess.ExpAnzahl, 3);
+  EXPECT_EQ(std::tie(s.Projekt.LetzteSitzung, batch, s.Mess.ExpAnzahl), std::make_tuple(true, "", 3));
 }
 
 TEST_F(ProjektLadenTest, ADatabasePathEndingInALetterLoadsNoDatabaseAndSaysNothing) {
