@@ -54,33 +54,28 @@ TEST(EOSParameter, ConstantsOfTheDenominators) {
   EXPECT_EQ(std::tie(virial.a0, virial.vKritEOS), std::make_tuple(pr.EOS.a0, 0.0));
 }
 
-TEST(EOSParameter, SetUpWipesHandInputAndSkipsMissingCriticalData) {
+// The set-up wipes hand input; without pKrit it returns at once, err and constants untouched; an
+// overflowing set-up ends in the flag and its message, nothing of it kept.
+TEST(EOSParameter, SetUpWipesHandInputSkipsMissingDataAndFlagsFailure) {
   ProjectState s = ZustandMit(Methan, 10);
   s.EOS.b0 = 0.05;
   s.EOS.BExpHand = 1.5;
   ui::SkriptOberflaeche ui;
   int16_t err = 5;
   EOSParameterSetup(s, ui, 10, err);
-  EXPECT_EQ(err, 0);
-  EXPECT_EQ(std::tie(s.EOS.b0, s.EOS.BExpHand), std::make_tuple(0.0, 0.0));
-  // Without pKrit the set-up returns at once: err and constants untouched.
+  EXPECT_EQ(std::tie(err, s.EOS.b0, s.EOS.BExpHand), std::make_tuple(int16_t{0}, 0.0, 0.0));
+
   s = ZustandMit(Methan, 6);
   const double a0 = s.EOS.a0;
   s.Stoff.pKrit = 0;
   err = 7;
   EOSParameterSetup(s, ui, 2, err);
-  EXPECT_EQ(err, 7);
-  EXPECT_EQ(s.EOS.a0, a0);
+  EXPECT_EQ(std::tie(err, s.EOS.a0), std::make_tuple(int16_t{7}, a0));
   EXPECT_TRUE(ui.Meldungen().empty());
-}
 
-// An overflowing set-up ends in the flag and its message, nothing of it kept.
-TEST(EOSParameter, FailureBecomesTheFlagAndItsMessage) {
-  ProjectState s = ZustandMit(Methan, 2);
   s.Stoff.TKrit = 1e200; // a0 overflows
   s.Stoff.pKrit = 1e-100;
-  ui::SkriptOberflaeche ui;
-  int16_t err = 0;
+  err = 0;
   EOSParameterSetup(s, ui, 2, err);
   EXPECT_GT(err, 0);
   EXPECT_EQ(std::tie(s.EOS.a0, s.EOS.vKritEOS), std::make_tuple(0.0, 0.0));
