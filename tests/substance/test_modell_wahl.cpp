@@ -57,7 +57,6 @@ TEST(frmQModell, OffersOnlyTheIdealGasWithoutCriticalData) {
   d.frm.Form_Load();
   for (const Indizes& liste : {d.frm.Dampfdruck.Index, d.frm.EOS.Index, d.frm.HLV.Index, d.frm.Cp.Index})
     EXPECT_EQ(liste, (Indizes{0}));
-  EXPECT_EQ(d.frm.WatsonListe, (std::vector<std::string>{"0.38"}));
   EXPECT_EQ(d.frm.lblRhoL, "Parameter nicht verfügbar");
   const ModelSelection& m = d.s.Modell;
   EXPECT_EQ(std::tie(m.DampfdruckTag, m.CpIndex, m.VirialFlag, m.KonzeptGlobal),

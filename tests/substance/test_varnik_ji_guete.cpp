@@ -21,12 +21,6 @@ namespace {
 
 using namespace quor::test;
 
-// The fitted range: 0.45 to 0.96 TKrit within the limits of the function.
-void Bereich(const ProjectState& s, const TGrenzen& g, double& von, double& bis) {
-  von = std::max(cubpar::TrMin * s.Stoff.TKrit, static_cast<double>(g.TLo));
-  bis = std::min(cubpar::TrMax * s.Stoff.TKrit, g.THi > 0 ? static_cast<double>(g.THi) : 1e9);
-}
-
 // Limits of the stored vapour-pressure equations, by their row (Antoine low and high, Frost/Kalkwarf,
 // Wagner); none for the others.
 TGrenzen DampfdruckGrenzen(const ProjectState& s) {
@@ -38,10 +32,12 @@ TGrenzen DampfdruckGrenzen(const ProjectState& s) {
 }
 
 // Largest relative deviation of the program's own saturation pressure (or liquid density, the
-// smallest root at saturation) from the substance's function, at 50 temperatures of the range.
+// smallest root at saturation) from the substance's function, at 50 temperatures of the fitted range
+// (0.45 to 0.96 TKrit within the limits of the function).
 double Groesste(ProjectState& s, bool dichte) {
-  double von = 0, bis = 0;
-  Bereich(s, dichte ? s.Stoff.RhoLGrenzen : DampfdruckGrenzen(s), von, bis);
+  const TGrenzen g = dichte ? s.Stoff.RhoLGrenzen : DampfdruckGrenzen(s);
+  const double von = std::max(cubpar::TrMin * s.Stoff.TKrit, static_cast<double>(g.TLo));
+  const double bis = std::min(cubpar::TrMax * s.Stoff.TKrit, g.THi > 0 ? static_cast<double>(g.THi) : 1e9);
   double maximum = 0;
   for (int i = 0; i <= 50; ++i) {
     const double T = von + (bis - von) * i / 50;
