@@ -90,7 +90,7 @@ TEST(Dichte, StraightDiameterRunsThroughTheReferenceAndTheCriticalPoint) {
   EXPECT_EQ(failed, -1);
 }
 
-TEST(Waermekapazitaet, BothIdealGasFormsGiveMethaneAtRoomTemperature) {
+TEST(Waermekapazitaet, BothIdealGasFormsGiveMethaneAndStayFiniteAtExtremes) {
   // Methane's sets of the default data; NIST: cp = 35.69 kJ/(kmol K) at 298.15 K.
   ProjectState s;
   s.Stoff.CpPoly = {41.27649f, -0.101277426f, 0.00037690537f, -3.694986e-07f, 1.2522948e-10f};
@@ -98,9 +98,16 @@ TEST(Waermekapazitaet, BothIdealGasFormsGiveMethaneAtRoomTemperature) {
   EXPECT_REL(CpIdG(s, 298.15, 1), 35.69, 5e-3);
   EXPECT_REL(CpIdG(s, 298.15, 2), 35.69, 5e-3);
   EXPECT_EQ(CpIdG(s, 298.15, 3), 0.0);
+  // Where C/T is tiny the sinh term tends to C1 and the cosh term to 0; 0/sinh(0) gives 0.
+  s.Stoff.CpSinh = {30, 80, 2000, 40, 1000};
+  EXPECT_REL(CpIdG(s, 1e6, 2), 110.0, 1e-5);
+  s.Stoff.CpSinh[2] = 0;
+  EXPECT_EQ(CpIdG(s, 300, 2), 0.0);
 }
 
-TEST(Waermekapazitaet, TheC4SwitchIsOneForTheGasAndTenForTheCondensedPhases) {
+// C4 goes with T^-2 for the gas and, from 10 on, for the condensed phases (else T^4); helium keeps its
+// polynomial up to a larger C2.
+TEST(Waermekapazitaet, PolynomialBranchesOfTheCondensedPhases) {
   ProjectState s;
   s.Stoff.CpPoly = {10, 0, 0, 0, 5};
   s.Stoff.CpL = {10, 0, 0, 0, 5};
@@ -110,26 +117,14 @@ TEST(Waermekapazitaet, TheC4SwitchIsOneForTheGasAndTenForTheCondensedPhases) {
   s.Stoff.CpL[4] = 10;
   EXPECT_REL(CpL(s, 2), 10 + 10 / 4.0, 1e-12);
   EXPECT_REL(CpS(s, 2), 10 + 0.5 * 16, 1e-12);
-}
-
-TEST(Waermekapazitaet, HeliumKeepsItsPolynomialUpToALargerC2) {
-  ProjectState s;
-  s.Stoff.CpL = {1, 0, 200, 0, 0}; // polynomial 1 + 200*T^2, or sinh/cosh with C1 = C3 = 0: 1
+  // Helium keeps its polynomial up to a larger C2: 1 + 200*T^2, or sinh/cosh with C1 = C3 = 0: 1.
+  s.Stoff.CpL = {1, 0, 200, 0, 0};
   s.Stoff.CASRN = "7440-59-7";
   EXPECT_REL(CpL(s, 2), 801.0, 1e-12);
   s.Stoff.CASRN = "7727-37-9";
   EXPECT_REL(CpL(s, 2), 1.0, 1e-12);
   s.Stoff.CpL[2] = 99; // below the limit of all others
   EXPECT_REL(CpL(s, 2), 1 + 99 * 4.0, 1e-12);
-}
-
-TEST(Waermekapazitaet, SinhCoshFormStaysFiniteAtExtremeArguments) {
-  ProjectState s;
-  s.Stoff.CpSinh = {30, 80, 2000, 40, 1000};
-  // Where C/T is tiny the sinh term tends to C1 and the cosh term to 0: 30 + 80.
-  EXPECT_REL(CpIdG(s, 1e6, 2), 110.0, 1e-5);
-  s.Stoff.CpSinh[2] = 0; // 0/sinh(0) is no number: the routine gives 0
-  EXPECT_EQ(CpIdG(s, 300, 2), 0.0);
 }
 
 } // namespace
