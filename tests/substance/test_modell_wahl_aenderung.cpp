@@ -1,6 +1,5 @@
-// The model window as the user changes it: virial models force PARTIAL and lose the cubic route
-// for delta(LV)h, cubic ones bring both back; the hand-input virial dialog; the omega warning; the
-// vapour-pressure choice with its correlated parameters.
+// The model window as the user changes it: EOS family and concept, hand-input virial coefficients,
+// the omega warning and the vapour-pressure choice.
 #include "modell_wahl_hilfe.h"
 #include "substance/b_par_input.h"
 

@@ -1,5 +1,4 @@
-// The dialog of the substance choice: its list and labels, the number field, the two Enter presses
-// on a name, and what OK does with the substance, the measured data and the menus.
+// The dialog of the substance choice: list and labels, number field, name search and OK.
 #include "dienste/skript_oberflaeche.h"
 #include "substance/stoff_wahl.h"
 #include "substance/stoff_wahl_suche.h"

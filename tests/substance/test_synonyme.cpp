@@ -1,6 +1,5 @@
-// The name search behind the substance choice: the keys with the spelling table, the "OXYD" rule and
-// the short forms; the synonym file in both encodings with its "END" line; the synonym block of a CAS
-// number and the messages for a missing file.
+// The name search behind the substance choice: the keys, the synonym file in both encodings, the
+// synonym block of a CAS number and the messages for what is missing.
 #include "core/text_kodierung.h"
 #include "dienste/skript_oberflaeche.h"
 #include "substance/synonyme.h"

@@ -1,7 +1,6 @@
-// Quality of the Varnik/Ji sets that cubpar fits, on a small nonpolar molecule and a strongly polar
-// associating liquid of the default database. Model I must reproduce the substance's vapour-pressure
-// equation within 1 % and its liquid density function within 5 % over the fitted range, model II at
-// least as well.
+// Quality of the Varnik/Ji sets that cubpar fits for a nonpolar and a strongly polar substance: model I
+// within 1 % of the vapour-pressure equation and 5 % of the liquid density function, model II at least
+// as well.
 #include "../tools/cubpar/saettigungsdaten.h"
 #include "engine/eos_parameter.h"
 #include "engine/korrelationen.h"
