@@ -60,6 +60,7 @@ TEST(DatenbankSchreiben, OneSubstanceFileKeepsWhatTheProgramDoesNotHold) {
     s.Stoff.pTripel = 2.f;
     s.Stoff.RhoLGrenzen.THi = 555;
     ASSERT_TRUE(SchreibeEinzelstoffDatenbank(s, "PRIVAT.Q0x"));
+    EXPECT_FALSE(SchreibeEinzelstoffDatenbank(s, dir.Pfad() + "/fehlt/PRIVAT.Q0x")); // no such folder
 
     std::string datei;
     ASSERT_TRUE(LeseDateiBytes(dir.Pfad() + "/PRIVAT.Q0x", datei));
@@ -74,7 +75,6 @@ TEST(DatenbankSchreiben, OneSubstanceFileKeepsWhatTheProgramDoesNotHold) {
     const test::RohLayout& l = alt.Layout();
     EXPECT_EQ(datei.substr(laenge + l.cas + 12, 82), std::string(82, 'R'));
     EXPECT_EQ(datei.substr(laenge + l.deutsch, 21), "Chlorbenzol, ge\xE4ndert");
-    EXPECT_EQ(datei.substr(laenge + l.englisch, 13), "Chlorobenzene");
     EXPECT_EQ(datei[laenge + l.nummer], 1); // numbered 1
 
     // ... and it opens like any other database.
@@ -91,23 +91,6 @@ TEST(DatenbankSchreiben, OneSubstanceFileKeepsWhatTheProgramDoesNotHold) {
     EXPECT_EQ(std::tie(t.Stoff.Struktur, t.Stoff.CpSinh, t.Stoff.HLV),
               std::tie(s.Stoff.Struktur, s.Stoff.CpSinh, s.Stoff.HLV));
   }
-}
-
-TEST(DatenbankSchreiben, WithoutAnOldRecordTheRestIsBlank) {
-  TempOrdner dir;
-  ProjectState s;
-  s.Datenbank.ProgrammVerzeichnis = dir.Pfad();
-  s.Stoff.StoffName = "Neu";
-  s.Stoff.TKrit = 500;
-  s.Stoff.pKrit = 4000;
-  ASSERT_TRUE(SchreibeEinzelstoffDatenbank(s, "NEU.Q07"));
-  int16_t failed = 0;
-  bool leer = false;
-  LadeDatenbank(s, 7, "NEU.Q07", failed, leer);
-  LadeStoff(s, 1, failed);
-  EXPECT_EQ(failed, 0);
-  EXPECT_EQ(std::tie(s.Stoff.StoffName, s.Stoff.CASRN), std::make_tuple("Neu", ""));
-  EXPECT_FALSE(SchreibeEinzelstoffDatenbank(s, dir.Pfad() + "/fehlt/NEU.Q07"));
 }
 
 } // namespace
