@@ -81,8 +81,6 @@ TEST(WendepunkteSuchen, InflectionPointsOfTheIsotherm) {
   ASSERT_EQ(err, 0);
   EXPECT_REL(wp.v[0], s.EOS.vKritEOS, 1e-9);
   EXPECT_REL(wp.p[0], Methan.pKrit, 1e-8);
-  WendepunkteSuchen(s, 1.06 * Methan.TKrit, wp, err);
-  EXPECT_EQ(err, 0);
   WendepunkteSuchen(s, 1.2 * Methan.TKrit, wp, err);
   EXPECT_EQ(err, -1);
   EXPECT_EQ(wp.v, (std::array<double, 2>{0, 0}));

@@ -163,24 +163,6 @@ TEST(JiSetup, UnreadableParameterFileEndsInItsMessages) {
   }
 }
 
-// The values are read one after the other whatever the line breaks, in the order count, unused,
-// JiM, JiN, JiP, JiZc (, JiB2); a name without a directory is found in the program directory.
-TEST(Daten_Ji, ReadsTheValuesInTheirOrderWhateverTheLineBreaks) {
-  TempOrdner dir;
-  ProjectState s = MethanFuerJi(7, "FRO", dir.Pfad());
-  ASSERT_TRUE(
-      SchreibeDateiBytes(dir.Datei("PARAM_JI.DAT"), "42, 1.5E-3 0.61\r\n-0.25\r\n\r\n3.5e-2,0.297\r\n"));
-  ui::SkriptOberflaeche ui;
-  int16_t err = 0;
-  std::array<double, 9> J{};
-  J[JiB2] = 9;
-  Daten_Ji(s, ui, "PARAM_JI.DAT", J, err);
-  EXPECT_EQ(err, 0);
-  EXPECT_TRUE(ui.Meldungen().empty());
-  EXPECT_EQ(std::tie(J[JiM], J[JiN], J[JiP], J[JiZc], J[JiB2]),
-            std::make_tuple(0.61, -0.25, 0.035, 0.297, 0.0));
-}
-
 // The numbers of a parameter file, read here with the C library, independently of the program.
 std::vector<double> Zahlen(const std::string& datei) {
   std::string bytes;
@@ -198,33 +180,31 @@ std::vector<double> Zahlen(const std::string& datei) {
 // The fitted parameters reach JiParameter unchanged, and a calculation with them works from end to
 // end: single-phase states on both sides of the saturation line and T -> p(LV) -> T.
 TEST(Cubpar, ItsParameterFileIsReadBackAndTheModelCalculates) {
-  for (int16_t modell : {7, 8}) {
-    TempOrdner dir;
-    StelleCubparBereit(dir.Pfad());
-    ProjectState s = MethanFuerJi(modell, "FRO", dir.Pfad());
-    ui::SkriptOberflaeche ui = EchteProzesse();
-    int16_t err = 0;
-    EOSParameterSetup(s, ui, modell, err);
-    ASSERT_EQ(err, 0) << modell;
-    EXPECT_TRUE(ui.Meldungen().empty());
-    const std::vector<double> z = Zahlen(dir.Datei(JiParameterDateiName(modell)));
-    ASSERT_EQ(z.size(), modell == 8 ? 7u : 6u);
-    EXPECT_EQ(z[0], 50); // 25 vapour pressures and 25 liquid densities of methane
-    const auto& J = s.EOS.JiParameter;
-    EXPECT_EQ(std::tie(J[JiM], J[JiN], J[JiP], J[JiZc]), std::tie(z[2], z[3], z[4], z[5]));
-    EXPECT_EQ(J[JiB2], modell == 8 ? z[6] : 0.0);
-    // The set-up turned JiZc into the critical volume.
-    EXPECT_REL(s.EOS.vKritEOS, J[JiZc] * RGas * 190.56 / 4599, 1e-14);
+  TempOrdner dir;
+  StelleCubparBereit(dir.Pfad());
+  ProjectState s = MethanFuerJi(8, "FRO", dir.Pfad());
+  ui::SkriptOberflaeche ui = EchteProzesse();
+  int16_t err = 0;
+  EOSParameterSetup(s, ui, 8, err);
+  ASSERT_EQ(err, 0);
+  EXPECT_TRUE(ui.Meldungen().empty());
+  // Count, unused, JiM, JiN, JiP, JiZc, JiB2; 25 vapour pressures and 25 liquid densities of methane.
+  const std::vector<double> z = Zahlen(dir.Datei(JiParameterDateiName(8)));
+  ASSERT_EQ(z.size(), 7u);
+  EXPECT_EQ(z[0], 50);
+  const auto& J = s.EOS.JiParameter;
+  EXPECT_EQ(std::tie(J[JiM], J[JiN], J[JiP], J[JiZc], J[JiB2]), std::tie(z[2], z[3], z[4], z[5], z[6]));
+  // The set-up turned JiZc into the critical volume.
+  EXPECT_REL(s.EOS.vKritEOS, J[JiZc] * RGas * 190.56 / 4599, 1e-14);
 
-    const double T = 140;
-    const double p = Saettigungsdruck(s, T, err);
-    ASSERT_EQ(err, 0);
-    const Loesung fluessig = Loese(s, T, 2 * p), dampf = Loese(s, T, 0.5 * p);
-    EXPECT_TRUE(fluessig.istL && !fluessig.istV) << modell;
-    EXPECT_TRUE(dampf.istV && !dampf.istL) << modell;
-    EXPECT_REL(Saettigungstemperatur(s, p, err), T, 1e-4);
-    EXPECT_EQ(err, 0);
-  }
+  const double T = 140;
+  const double p = Saettigungsdruck(s, T, err);
+  ASSERT_EQ(err, 0);
+  const Loesung fluessig = Loese(s, T, 2 * p), dampf = Loese(s, T, 0.5 * p);
+  EXPECT_TRUE(fluessig.istL && !fluessig.istV);
+  EXPECT_TRUE(dampf.istV && !dampf.istL);
+  EXPECT_REL(Saettigungstemperatur(s, p, err), T, 1e-4);
+  EXPECT_EQ(err, 0);
 }
 
 // With no vapour-pressure data at all (no tag and an empty Antoine block) the program has nothing
