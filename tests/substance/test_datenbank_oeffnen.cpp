@@ -1,10 +1,12 @@
-// Opening database files: the lists, the kinds, and every broken file ending in the user's message
-// with the earlier state kept.
+// Reading database files: the lists of both kinds, every broken file ending in the user's message with
+// the earlier state kept, and one substance loaded with every cell where it belongs and the values
+// derived on load.
 #include "core/text_kodierung.h"
 #include "dienste/skript_oberflaeche.h"
 #include "rohdatei.h"
 #include "substance/datenbank.h"
 #include "substance/stoff_laden.h"
+#include "support/relativ.h"
 #include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
@@ -173,6 +175,137 @@ TEST(DatenbankOeffnen, FileDialogOffersTheKindAndCancelLoadsNothing) {
   WaehleDatenbank(s, 7, cancelled, ui);
   EXPECT_FALSE(cancelled);
   EXPECT_EQ(s.Datenbank.StoffAnzahl, 2);
+}
+
+// A substance of water's size with every block filled and distinct values in every cell.
+RohSatz Vollstaendig() {
+  RohSatz r(7);
+  r.Formel("H2O  D").Deutsch("Wasser; destilliert").Englisch("Water").CAS("7732-18-5").Nummer(12);
+  r.Struktur("H-O-H");
+  for (int i = 0; i < 141; ++i)
+    r.Zelle(i, 1000.f + i); // every cell distinct
+  r.Zelle(0, 18.01528f).Zelle(6, 647.096049f).Zelle(7, 22064.06f).Zelle(8, 322.f).Zelle(9, 0.3443f);
+  r.Zelle(10, 373.15f).Zelle(85, -241818.f).Zelle(87, -228572.f).Zelle(89, 188.84f);
+  r.Zelle(91, 273.16f).Zelle(92, 0.6117f).Zelle(93, 273.15f);
+  r.Zelle(21, 273.5f).Zelle(22, 274.5f);
+  r.Zelle(33, 273.f).Zelle(34, 647.f).Zelle(39, 274.f).Zelle(40, 373.f).Zelle(45, 373.f).Zelle(46, 600.f);
+  r.Zelle(58, 275.f).Zelle(59, 646.f).Zelle(66, 100.f).Zelle(67, 1500.f).Zelle(74, 100.f).Zelle(75, 2000.f);
+  r.Zelle(69, 33.3f).Zelle(71, -2610.5f);
+  r.Zelle(77, 276.f).Zelle(78, -2.09f).Zelle(82, 273.f).Zelle(83, 533.f);
+  r.Zelle(110, 0.f).Zelle(111, 0.f).Zelle(115, 0.f).Zelle(116, 0.f); // no solid cp
+  r.Zelle(105, 40650.f).Zelle(106, 373.15f).Zelle(107, 41000.f).Zelle(108, 375.f);
+  return r;
+}
+
+ProjectState Geladen(const RohSatz& r, int16_t& failed) {
+  ProjectState s;
+  bool leer = false;
+  LadeDatenbankAusBytes(s, 7, "T.Q07", RohDatei(7, 1, {r}), failed, leer);
+  EXPECT_EQ(failed, 0);
+  LadeStoff(s, 1, failed);
+  return s;
+}
+
+TEST(StoffLaden, CellsGoToTheirFieldsWithTheDerivedValues) {
+  int16_t failed = -1;
+  const ProjectState s = Geladen(Vollstaendig(), failed);
+  EXPECT_EQ(failed, 0);
+  const StoffGruppe& st = s.Stoff;
+  EXPECT_EQ(std::tie(st.FormelOhneLeer, st.StoffName, st.Struktur, st.CASRN, st.MDBNr),
+            std::make_tuple("H2OD", "Wasser", "H-O-H", "7732-18-5", 12)); // name cut before the ';'
+  // Four decimals on molar mass and critical point, rounded by hand from the single-precision
+  // cells 18.0152797..., 647.0960693..., 22064.0605468...
+  EXPECT_EQ(st.MolMasse, 18.0153f);
+  EXPECT_DOUBLE_EQ(st.TKrit, 647.0961);
+  EXPECT_DOUBLE_EQ(st.pKrit, 22064.0605);
+  EXPECT_DOUBLE_EQ(st.vKritExp, 18.0153f / 322.0);
+  EXPECT_DOUBLE_EQ(st.omega, 0.3443f);
+  EXPECT_FLOAT_EQ(st.DeltaFs, (-241818.f + 228572.f) / 298.15f);
+  EXPECT_EQ(std::tie(st.sBildung, st.TUntereGrenze), std::make_tuple(188.84f, 273.15f));
+  // One cell of each block and limit; the stored vapour-pressure blocks show at water's boiling point.
+  EXPECT_EQ(std::tie(st.RhoL[0], st.RhoLTcr, st.FrostKalkwarf[8], st.CpPoly[4], st.CpL[0], st.HLV[5],
+                     st.HLVTcr, st.CpS[4], st.RhoS[3]),
+            std::make_tuple(1013.f, 1020.f, 1032.f, 1065.f, 276.f, 1101.f, 1102.f, 1114.f, 1121.f));
+  EXPECT_EQ(std::tie(st.RhoLGrenzen.TLo, st.RhoLGrenzen.THi, st.HLVGrenzen.THi, st.RhoSGrenzen.THi),
+            std::make_tuple(274, 274, 1104, 1123)); // the limits round half to even
+  // August through (373.15 K, 101.325 kPa) and the critical point, computed independently:
+  // B = 373.15*647.0961*ln(22064.0605/101.325)/(373.15 - 647.0961) = -4745.0577,
+  // A = ln(22064.0605) - B/647.0961 = 17.334554.
+  EXPECT_REL(st.AugustB, -4745.0577, 1e-7);
+  EXPECT_REL(st.AugustA, 17.334554, 1e-7);
+}
+
+TEST(StoffLaden, CpFlagsAndTheSinhCoshC2) {
+  int16_t failed = 0;
+  const StoffGruppe voll = Geladen(Vollstaendig(), failed).Stoff;
+  EXPECT_EQ(std::tie(voll.CpPolyOK, voll.CpSinhOK, voll.CpLOK, voll.CpSOK),
+            std::make_tuple(true, true, true, false));
+  EXPECT_EQ(voll.CpSinh[2], 2610.5f); // stored as its absolute value
+
+  RohSatz r = Vollstaendig();
+  r.Zelle(71, 0.f);                                                    // C2 missing beside a C0
+  r.Zelle(110, 0.f).Zelle(111, 5.f).Zelle(115, 10.f).Zelle(116, 20.f); // solid cp from C1 alone
+  r.Zelle(74, 0.f);                                                    // sinh/cosh without a range
+  const StoffGruppe t = Geladen(r, failed).Stoff;
+  EXPECT_EQ(t.CpSinh[2], 0.1f);
+  EXPECT_FALSE(t.CpSinhOK);
+  EXPECT_TRUE(t.CpSOK);
+  r.Zelle(69, 0.f); // neither C0 nor C2: C2 stays 0
+  EXPECT_EQ(Geladen(r, failed).Stoff.CpSinh[2], 0.f);
+}
+
+TEST(StoffLaden, SecondWatsonPointWinsOnlyWithinTwoKelvin) {
+  // Boiling point, second Watson temperature, the enthalpy taken.
+  const struct {
+    float tSiede, tWatson, h;
+  } faelle[] = {{373.15f, 375.f, 41000.f}, {300.f, 302.f, 40650.f}, {300.f, 298.5f, 41000.f}};
+  for (const auto& f : faelle) {
+    int16_t failed = 0;
+    RohSatz r = Vollstaendig();
+    r.Zelle(10, f.tSiede).Zelle(108, f.tWatson);
+    EXPECT_EQ(Geladen(r, failed).Stoff.WatsonH, f.h) << f.tWatson;
+  }
+}
+
+TEST(StoffLaden, DefaultVapourPressureTagFollowsThePreference) {
+  int16_t failed = 0;
+  RohSatz r = Vollstaendig();
+  r.Zelle(33, -5.f); // a negative lower limit counts by its absolute value
+  EXPECT_EQ(Geladen(r, failed).Modell.DampfdruckTag, "FRO");
+  // Each block removed in turn hands over to the next one.
+  for (const auto& [zelle, tag] : {std::pair{33, "WAG"}, {58, "ALP"}, {39, "AHP"}, {45, "AUG"}}) {
+    r.Zelle(zelle, 0.f);
+    EXPECT_EQ(Geladen(r, failed).Modell.DampfdruckTag, tag);
+  }
+  r.Zelle(7, 0.f); // no critical pressure: the August constants vanish
+  const ProjectState s = Geladen(r, failed);
+  EXPECT_EQ(failed, -1);
+  EXPECT_EQ(s.Modell.DampfdruckTag, "<> ");
+  EXPECT_EQ(s.Stoff.AugustA, 0.f);
+}
+
+TEST(StoffLaden, MissingDataFailButTheRecordIsLoaded) {
+  int16_t failed = 0;
+  RohSatz r = Vollstaendig();
+  r.Zelle(6, 0.f).Zelle(93, 0.f);
+  const ProjectState s = Geladen(r, failed);
+  EXPECT_EQ(failed, -1); // no critical temperature
+  EXPECT_EQ(s.Stoff.StoffName, "Wasser");
+  EXPECT_EQ(s.Stoff.AugustB, 0.f);           // Tb*Tc = 0
+  EXPECT_EQ(s.Stoff.TUntereGrenze, 273.16f); // an empty lower bound takes the triple point
+}
+
+TEST(StoffLaden, IndexZeroDoesNothingAndAnIndexBeyondTheListFails) {
+  int16_t failed = 0;
+  ProjectState s = Geladen(Vollstaendig(), failed);
+  s.Stoff.StoffName = "vorher";
+  LadeStoff(s, 0, failed);
+  EXPECT_EQ(failed, 0);
+  for (int16_t index : {2, -1}) {
+    LadeStoff(s, index, failed);
+    EXPECT_EQ(failed, -1) << index;
+  }
+  EXPECT_EQ(s.Stoff.StoffName, "vorher");
 }
 
 } // namespace
