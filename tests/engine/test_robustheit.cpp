@@ -1,8 +1,10 @@
 // Every solver over a wide grid of states, models and substances returns finite numbers or fails.
 #include "stoffe.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <vector>
 
 namespace quor {
@@ -18,8 +20,8 @@ std::vector<double> LogGitter(double von, double bis, int punkte) {
 }
 
 bool Endlich(const Loesung& l) {
-  return std::isfinite(l.rhoV) && std::isfinite(l.rhoL) && std::isfinite(l.vV) && std::isfinite(l.vL) &&
-         std::isfinite(l.Imbalance) && std::isfinite(l.A) && std::isfinite(l.B);
+  const double werte[] = {l.rhoV, l.rhoL, l.vV, l.vL, l.Imbalance, l.A, l.B};
+  return std::all_of(std::begin(werte), std::end(werte), [](double x) { return std::isfinite(x); });
 }
 
 void PruefeModell(const StoffDaten& stoff, int16_t index) {
