@@ -87,20 +87,6 @@ TEST(Dampfdruck, FrostKalkwarfExplicitAndImplicit) {
   EXPECT_REL(DLnpDInvT(s, 280, 3, failed), SteigungNumerisch(s, 280, 3), 1e-4);
 }
 
-TEST(Dampfdruck, WagnerFailsAtItsCriticalTemperatureAndBeyondASumOf50) {
-  ProjectState s = Wasser();
-  ui::SkriptOberflaeche ui;
-  int16_t failed = 0;
-  EXPECT_REL(pLV(s, 647.29, 4, true, failed, &ui), 22120, 1e-3);
-  EXPECT_EQ(pLV(s, 647.3, 4, true, failed, &ui), 0.0);
-  EXPECT_EQ(failed, -1);
-  // A sum above 50 in magnitude fails silently, though 150 K lies far below the range.
-  s.Stoff.Wagner[0] = -70;
-  EXPECT_EQ(pLV(s, 150, 4, true, failed, &ui), 0.0);
-  EXPECT_EQ(failed, -1);
-  EXPECT_TRUE(ui.Meldungen().empty());
-}
-
 TEST(Dampfdruck, SlopeAgreesWithTheCurveForEveryForm) {
   ProjectState s = Wasser();
   MethanFrostKalkwarf(s.Stoff); // the stored C' is 273.15 - 273.15, so the sign of C' - T doesn't show
@@ -151,7 +137,7 @@ TEST(Dampfdruck, WarningsBeyondTenKelvinForThePressureFiveForTheTemperatureAndTh
 
 // Zero temperature, NaN, no form, a pressure near 0, an unknown form, a pressure below 1e-35 (Wagner at
 // 5 K), and Frost/Kalkwarf without coefficients, whose inverse has no start.
-TEST(Dampfdruck, NonsenseInputFailsWithZero) {
+TEST(Dampfdruck, NonsenseInputAndTheEndsOfWagnerFailWithZero) {
   ProjectState s = Wasser();
   int16_t failed = 0;
   const auto scheitert = [&](double wert) { return wert == 0.0 && failed == -1; }; // after the call
@@ -162,6 +148,13 @@ TEST(Dampfdruck, NonsenseInputFailsWithZero) {
   EXPECT_TRUE(scheitert(TLV(s, 100, 9, false, failed)));
   EXPECT_TRUE(scheitert(pLV(s, 5, 4, false, failed)));
   EXPECT_TRUE(scheitert(TLV(s, 100, 3, false, failed)));
+  // Wagner fails at its own critical temperature, and silently beyond a sum of 50 in magnitude.
+  ui::SkriptOberflaeche ui;
+  EXPECT_REL(pLV(s, 647.29, 4, true, failed, &ui), 22120, 1e-3);
+  EXPECT_TRUE(scheitert(pLV(s, 647.3, 4, true, failed, &ui)));
+  s.Stoff.Wagner[0] = -70;
+  EXPECT_TRUE(scheitert(pLV(s, 150, 4, true, failed, &ui)));
+  EXPECT_TRUE(ui.Meldungen().empty());
 }
 
 } // namespace
