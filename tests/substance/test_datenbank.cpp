@@ -25,22 +25,19 @@ namespace {
 
 using test::TempOrdner;
 
-// Database files put together byte by byte from the record layout, independent of the program's
-// own record class.
-// Offsets of one record kind: formula, structure (width 0 in .Q06), English and German name, CAS
-// number, the i16 and the first cell.
+// Records put together byte by byte from the layout, independent of the program's own record class.
+// Offsets of one kind: formula, structure (none in .Q06), English and German name, CAS number, the
+// i16 and the first cell.
 struct RohLayout {
-  int laenge, formel, struktur, strukturBreite, englisch, englischBreite, deutsch, deutschBreite, cas, nummer,
-      zellen;
+  int laenge, formel, struktur, englisch, deutsch, cas, nummer, zellen;
 };
 
-constexpr RohLayout RohQ07{950, 0, 16, 107, 123, 60, 183, 107, 290, 384, 386};
-constexpr RohLayout RohQ06{776, 0, 0, 0, 16, 50, 66, 50, 116, 210, 212};
+constexpr RohLayout RohQ07{950, 0, 16, 123, 183, 290, 384, 386};
+constexpr RohLayout RohQ06{776, 0, 0, 16, 66, 116, 210, 212};
 
 class RohSatz {
 public:
-  explicit RohSatz(int typ = 7, char fuellung = ' ')
-      : l_(typ == 6 ? RohQ06 : RohQ07), bytes_(l_.laenge, fuellung) {
+  explicit RohSatz(int typ = 7) : l_(typ == 6 ? RohQ06 : RohQ07), bytes_(l_.laenge, ' ') {
     for (int i = l_.nummer; i < l_.laenge; ++i)
       bytes_[i] = 0;
   }
