@@ -15,7 +15,7 @@ using namespace quor::test;
 
 // At TKrit and pKrit the cubic has a triple root at vKritEOS, attainable only to the cube root of
 // the rounding (about 5e-6).
-TEST(EOSParameter, RootsMeetAtTheCriticalVolumeForEveryCubicRow) {
+TEST(EOSParameter, CriticalPointAndTextbookConstants) {
   for (const StoffDaten& stoff : {Methan, Wasser, Eikosan}) {
     for (int16_t index : KubischeZeilen) {
       ProjectState s = ZustandMit(stoff, index);
@@ -28,12 +28,9 @@ TEST(EOSParameter, RootsMeetAtTheCriticalVolumeForEveryCubicRow) {
       EXPECT_REL(s.EOS.VRoots[nRoots == 3 ? 2 : 0], s.EOS.vKritEOS, 5e-5);
     }
   }
-}
-
-// Peng and Robinson (1976): Omega_a = 0.45724, Omega_b = 0.07780, to more digits 0.457235529 and
-// 0.0777960739 (the exact root of their critical conditions); (v+c)*(v+d) = v^2 + 2*b*v - b^2; the
-// slope at omega = 0 is 0.37464.
-TEST(EOSParameter, TextbookConstants) {
+  // Peng and Robinson (1976): Omega_a = 0.45724, Omega_b = 0.07780, to more digits 0.457235529 and
+  // 0.0777960739 (the exact root of their critical conditions); (v+c)*(v+d) = v^2 + 2*b*v - b^2; the
+  // slope at omega = 0 is 0.37464.
   const double Tc = OhneOmega.TKrit, pc = OhneOmega.pKrit;
   ProjectState pr = ZustandMit(OhneOmega, 6);
   EXPECT_REL(pr.EOS.a0 * pc / (RGas * RGas * Tc * Tc), 0.457235529, 1e-8);

@@ -59,7 +59,6 @@ TEST(Dichte, SolidCubicAndTheRangeWarningsOfBothPhases) {
   // 900 - 15 + 2.25 = 887.25.
   EXPECT_REL(RhoS(s, 150, true, failed, &ui), 887.25, 1e-6);
   RhoS(s, 205, true, failed, &ui);
-  RhoL(s, 86, true, failed, &ui);
   EXPECT_TRUE(ui.Meldungen().empty());
   RhoS(s, 206, true, failed, &ui);
   ASSERT_EQ(ui.Meldungen().size(), 1u);

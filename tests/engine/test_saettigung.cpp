@@ -101,7 +101,7 @@ TEST(pLVbeiT, RestartNearZeroStillFindsTheSaturationPressure) {
 }
 
 // T -> p(LV) -> T and p -> T(LV) -> p on both sides of 0.02*pKrit (secant above, a scan below).
-TEST(TLVbeiP, InvertsTheSaturationPressure) {
+TEST(TLVbeiP, InvertsTheSaturationPressureUpToTheCriticalPoint) {
   for (int16_t index : {2, 5, 6, 8}) {
     ProjectState s = ZustandMit(Methan, index);
     int16_t err = 0;
@@ -117,9 +117,7 @@ TEST(TLVbeiP, InvertsTheSaturationPressure) {
           << index << " " << pr;
     }
   }
-}
-
-TEST(Saettigung, CriticalPointAndBeyond) {
+  // At the critical point and beyond.
   ProjectState s = ZustandMit(Methan, 6);
   int16_t err = 5;
   EXPECT_EQ(Saettigungsdruck(s, Methan.TKrit, err), Methan.pKrit);

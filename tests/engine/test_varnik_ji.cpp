@@ -22,7 +22,6 @@ namespace {
 using namespace quor::test;
 
 const char* const NichtMoeglich = "Ausführung nicht möglich";
-const char* const KeinParameterfile = "Kein Parameterfile erzeugt.";
 const char* const SetupFehler = "Fehler bei der EOS-Parameterberechnung (Varnik-Ji-Modell)";
 
 std::string Golden(const std::string& tag) {
@@ -129,7 +128,7 @@ TEST(JiSetup, MissingProgramEndsInBothMessages) {
   EXPECT_EQ(s.EOS.vKritEOS, 0.0);
   const auto m = ui.Meldungen();
   ASSERT_EQ(m.size(), 2u);
-  EXPECT_EQ(std::tie(m[0].text, m[0].titel), std::tie(KeinParameterfile, NichtMoeglich));
+  EXPECT_EQ(std::tie(m[0].text, m[0].titel), std::make_tuple("Kein Parameterfile erzeugt.", NichtMoeglich));
   EXPECT_EQ(std::tie(m[1].text, m[1].titel), std::tie(SetupFehler, NichtMoeglich));
   EXPECT_TRUE(DateiExistiert(dir.Datei("jipar.tmp")));
 }

@@ -87,8 +87,7 @@ TEST(VzuTP, VirialModelsGiveTheVapourOnlyAndKeepTheRegion) {
     EXPECT_TRUE(l.istV && !l.istL);
     EXPECT_EQ(s.EOS.Gebiet, 3);
     // v = R*T/p + B; for the ideal gas exactly R*T/p.
-    const double B = index == 0 ? 0.0 : BvonT(s, index, 250);
-    EXPECT_REL(l.vV, RGas * 250 / 500 + B, 1e-14);
+    EXPECT_REL(l.vV, RGas * 250 / 500 + (index == 0 ? 0.0 : BvonT(s, index, 250)), 1e-14);
   }
 }
 
