@@ -77,7 +77,7 @@ TEST(frmQModell, OffersEveryModelOfAFullSubstanceInItsOrder) {
   EXPECT_TRUE(d.ui.protokoll.empty());
 }
 
-TEST(frmQModell, LeavesOutWhatNeedsTheAcentricFactor) {
+TEST(frmQModell, LeavesOutWhatNeedsTheAcentricFactorOrTheCriticalPoint) {
   ProjectState s = VollerStoff();
   s.Stoff.omega = 0;
   ModellDialog d(std::move(s));
@@ -86,26 +86,24 @@ TEST(frmQModell, LeavesOutWhatNeedsTheAcentricFactor) {
   EXPECT_EQ(d.s.Modell.EOSIndex, 4); // the default without omega
   EXPECT_EQ(d.frm.HLV.Index, (Indizes{1, 2, 4, 5, 6}));
   EXPECT_TRUE(d.ui.protokoll.empty()); // nothing offered needs omega, so no warning
-}
 
-TEST(frmQModell, OffersOnlyTheIdealGasWithoutCriticalData) {
-  ProjectState s;
-  InitProjectState(s);
-  s.Stoff.StoffName = "Unbekannt";
-  s.Modell.CpIndex = 2;
-  ModellDialog d(std::move(s));
-  d.frm.Form_Load();
-  for (const Indizes& liste : {d.frm.Dampfdruck.Index, d.frm.EOS.Index, d.frm.HLV.Index, d.frm.Cp.Index})
+  // Without critical data only the ideal gas is left.
+  ProjectState leer;
+  InitProjectState(leer);
+  leer.Modell.CpIndex = 2;
+  ModellDialog o(std::move(leer));
+  o.frm.Form_Load();
+  for (const Indizes& liste : {o.frm.Dampfdruck.Index, o.frm.EOS.Index, o.frm.HLV.Index, o.frm.Cp.Index})
     EXPECT_EQ(liste, (Indizes{0}));
-  EXPECT_EQ(d.frm.lblRhoL, "Parameter nicht verfügbar");
-  const ModelSelection& m = d.s.Modell;
+  EXPECT_EQ(o.frm.lblRhoL, "Parameter nicht verfügbar");
+  const ModelSelection& m = o.s.Modell;
   EXPECT_EQ(std::tie(m.DampfdruckTag, m.CpIndex, m.VirialFlag, m.KonzeptGlobal),
             std::make_tuple("000", 0, true, false));
-  EXPECT_FALSE(d.frm.optKonzeptEnabled);
-  EXPECT_EQ(d.s.Projekt.StatusLeiste[3], "Idealgas-EOS");
-  EXPECT_EQ(d.s.Projekt.StatusLeiste[4], "Dampfdruck-Gleichung: keine");
-  EXPECT_FALSE(d.s.Projekt.Freigaben.KritischerPunkt || d.s.Projekt.Freigaben.Saettigung);
-  EXPECT_TRUE(d.ui.protokoll.empty());
+  EXPECT_FALSE(o.frm.optKonzeptEnabled);
+  EXPECT_EQ(o.s.Projekt.StatusLeiste[3], "Idealgas-EOS");
+  EXPECT_EQ(o.s.Projekt.StatusLeiste[4], "Dampfdruck-Gleichung: keine");
+  EXPECT_FALSE(o.s.Projekt.Freigaben.KritischerPunkt || o.s.Projekt.Freigaben.Saettigung);
+  EXPECT_TRUE(o.ui.protokoll.empty());
 }
 
 TEST(frmQModell, CorrectsStoredChoicesTheSubstanceCannotServe) {
