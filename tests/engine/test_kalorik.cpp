@@ -65,8 +65,7 @@ void PruefeCpCvW(ProjectState& s, const StoffDaten& stoff, const Zustand& z) {
   const auto sBei = [&](double t, double vol) { return Thermo(s, t, Druck(s, t, vol), vol).s; };
   const double sT = (sBei(T + hT, v) - sBei(T - hT, v)) / (2 * hT);
   const double sv = (sBei(T, v + hv) - sBei(T, v - hv)) / (2 * hv);
-  const double M = stoff.MolMasse;
-  EXPECT_REL(w.w, std::sqrt(-(v * v / M) * 1000 * (pv - pT * sv / sT)), 1e-6);
+  EXPECT_REL(w.w, std::sqrt(-(v * v / stoff.MolMasse) * 1000 * (pv - pT * sv / sT)), 1e-6);
 }
 
 // Every row; the virial rows and the ideal gas in the vapour only. With h the residual enthalpy

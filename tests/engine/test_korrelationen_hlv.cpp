@@ -80,7 +80,7 @@ TEST(Verdampfungsenthalpie, DatabaseFunctionWarnsBeyondFiveKelvinAndEndsAtItsCri
   EXPECT_EQ(failed, -1);
 }
 
-TEST(Verdampfungsenthalpie, MissingPressureOrTemperatureComesFromTheEquationThenTheDataPoint) {
+TEST(Verdampfungsenthalpie, MissingPressureOrTemperatureAndTheFailures) {
   ProjectState s = Wasser();
   int16_t failed = -1;
   HLVErgebnis erg;
@@ -111,13 +111,9 @@ TEST(Verdampfungsenthalpie, MissingPressureOrTemperatureComesFromTheEquationThen
   EXPECT_EQ(Hlv(s, 3, 0, 1e6, failed, erg, 1), 0.0);
   EXPECT_EQ(failed, -1);
   EXPECT_EQ(erg.notizen.back(), "T > T(cr)!");
-}
 
-TEST(Verdampfungsenthalpie, FailuresWithoutAValue) {
-  ProjectState s = Wasser();
-  int16_t failed = 0;
-  HLVErgebnis erg;
-  EXPECT_EQ(Hlv(s, 3, 650, 101.325, failed, erg), 0.0); // above TKrit at once
+  // Failures without a value: above TKrit at once, methods without a correlation, Chen without pKrit.
+  EXPECT_EQ(Hlv(s, 3, 650, 101.325, failed, erg), 0.0);
   EXPECT_EQ(failed, -1);
   EXPECT_TRUE(erg.notizen.empty());
   for (int methode : {0, 5, 6, 7, 8}) {
@@ -125,7 +121,6 @@ TEST(Verdampfungsenthalpie, FailuresWithoutAValue) {
     EXPECT_EQ(Hlv(s, methode, 373.15, 101.325, failed, erg, 1), 0.0);
     EXPECT_EQ(failed, -1) << methode;
   }
-  // Without a critical pressure Chen has no value.
   s.Stoff.pKrit = 0;
   EXPECT_EQ(Hlv(s, 2, 373.15, 101.325, failed, erg), 0.0);
   EXPECT_EQ(failed, -1);

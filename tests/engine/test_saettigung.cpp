@@ -117,7 +117,6 @@ TEST(TLVbeiP, InvertsTheSaturationPressureUpToTheCriticalPoint) {
           << index << " " << pr;
     }
   }
-  // At the critical point and beyond.
   ProjectState s = ZustandMit(Methan, 6);
   int16_t err = 5;
   EXPECT_EQ(Saettigungsdruck(s, Methan.TKrit, err), Methan.pKrit);
