@@ -33,10 +33,8 @@ double Abweichung(ProjectState& s, int index, double T, double p) {
   return failed != 0 ? INFINITY : std::fabs(ist / p - 1);
 }
 
-// Every record loads with a unique system number. Some stored curves miss 1 atm at the stored
-// boiling point by more than 3 %: the source's curve and boiling point disagree (long alkanes, acids
-// and nitro compounds that decompose, substances that sublime, curves cut where they drift). The data
-// are kept as they are; their number stays bounded.
+// Every record loads with a unique system number. Where the source's curve and boiling point disagree
+// (decomposing or subliming substances, long alkanes) 1 atm is missed by over 3 %: bounded in number.
 TEST(Standarddatenbank, OpensAndTheDefaultEquationsPassTheNormalBoilingPoint) {
   ProjectState s = MitStandardDatenbank();
   ASSERT_EQ(s.Datenbank.StoffAnzahl, 430);
@@ -110,9 +108,6 @@ TEST(KorrelierteParameter, NothingWithoutBoilingPointOrBelowIndexFive) {
             std::tie(leer.KFW, leer.KFR, leer.THO, leer.AugustA));
 }
 
-// Quality of the Varnik/Ji sets that cubpar fits for a nonpolar and a strongly polar substance: model I
-// within 1 % of the vapour-pressure equation and 5 % of the liquid density function, model II at least
-// as well.
 // Limits of the stored vapour-pressure equations, by their row (Antoine low and high, Frost/Kalkwarf,
 // Wagner); none for the others.
 TGrenzen DampfdruckGrenzen(const ProjectState& s) {
@@ -145,6 +140,8 @@ double Groesste(ProjectState& s, bool dichte) {
   return maximum;
 }
 
+// The Varnik/Ji sets cubpar fits for a nonpolar and a strongly polar substance: model I within 1 % of
+// the vapour-pressure equation and 5 % of the liquid density function, model II at least as well.
 class JiGuete : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(JiGuete, FitFollowsVapourPressureAndLiquidDensity) {
