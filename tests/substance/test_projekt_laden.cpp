@@ -72,7 +72,6 @@ TEST_F(ProjektLadenTest, AProjectBringsBackItsDatabaseSubstanceAndModels) {
             std::make_tuple("etoh.BAQ", 7, "QUOR.Q07", 9, "05.06.2024 07:08:09"));
   EXPECT_EQ(s.Datenbank.StoffIndex, IndexVonCAS(s, CasEthanol));
   EXPECT_NE(s.Projekt.Ampel.DatenAmpel, 0); // the data are graded as after a choice in the list
-  EXPECT_TRUE(s.Projekt.Freigaben.Stoff);
   // The settings themselves are the project file's round trip; the former virial family goes.
   EXPECT_FALSE(s.Modell.VirialFlag);
   // Saved without manual normalisation: the presets come from the critical point.

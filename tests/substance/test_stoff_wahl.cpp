@@ -170,8 +170,7 @@ TEST(StoffSuchen, TellsOfASynonymWhoseSubstanceIsNotInTheDatabase) {
   ProjectState s = MitStandardDatenbank(dir.Pfad());
   ui::SkriptOberflaeche ui;
   const Ergebnis e = Suchen(s, ui, "Unobtanium", 3);
-  EXPECT_TRUE(e.notFound);
-  EXPECT_EQ(e.index, 3);
+  EXPECT_EQ(std::tie(e.index, e.notFound), std::make_tuple(3, true));
   EXPECT_EQ(ui.Letzte().text, "Unob de\r\nXu\r\nUnob en\r\nCAS-Nr. 1-1-1\r\n"
                               "  dieser Stoff ist in der Datenbank nicht enthalten  ");
 
