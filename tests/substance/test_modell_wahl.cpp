@@ -62,7 +62,6 @@ TEST(frmQModell, OffersEveryModelOfAFullSubstanceInItsOrder) {
   // Defaults: the first vapour-pressure and delta(LV)h entries, Peng/Robinson, the sinh/cosh cp.
   const ModelSelection& m = d.s.Modell;
   EXPECT_EQ(std::tie(m.DampfdruckTag, m.EOSIndex, m.HLVIndex, m.CpIndex), std::make_tuple("FRO", 6, 1, 2));
-  EXPECT_TRUE(d.frm.optKonzeptEnabled);
   EXPECT_EQ(d.frm.lblRhoL, "Parameter aus Datenbank verfügbar");
   EXPECT_EQ(d.frm.lblRhoLBereich, "Gültigkeit: T = 200 ... 480 K");
 
