@@ -194,11 +194,8 @@ TEST(DatenbankOeffnen, GarbageTextBytesBecomeCharactersAndNothingBreaks) {
   for (int b = 1; b < 256; ++b)
     alleBytes += static_cast<char>(b);
   RohSatz r(7);
-  r.Formel(alleBytes.substr(120, 16))
-      .Deutsch(alleBytes.substr(128, 107))
-      .CAS(alleBytes.substr(0, 12))
-      .Nummer(3);
-  r.Struktur(alleBytes.substr(20, 107));
+  r.Formel(alleBytes.substr(120, 16)).Deutsch(alleBytes.substr(128, 107)).CAS(alleBytes.substr(0, 12));
+  r.Struktur(alleBytes.substr(20, 107)).Nummer(3);
   for (int i = 0; i < 141; ++i)
     r.Zelle(i, i % 2 ? std::numeric_limits<float>::quiet_NaN() : -1e38f);
   ProjectState s;

@@ -213,7 +213,6 @@ TEST(frmQStoffWahl, ListsTheDatabaseAndShowsTheSelectedRecord) {
   EXPECT_TRUE(d.ui.protokoll.empty());
 
   ProjectState alt;
-  alt.Datenbank.ProgrammVerzeichnis = ProgrammVerzeichnis;
   ASSERT_TRUE(DatenbankOeffnen(alt, 6, std::string(QUOR_TESTDATEN) + "/datenbank/AUSWAHL.Q06", d.ui));
   frmQStoffWahl aeltere(alt, d.ui);
   ASSERT_TRUE(aeltere.Form_Load());
