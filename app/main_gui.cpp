@@ -1,8 +1,8 @@
 // The QUOR-6 program with its main frame.
 #include "core/programm_verzeichnis.h"
 #include "core/project_state.h"
-#include "gui/frame/mdi_quor.h"
 #include "gui/basis/qt_oberflaeche.h"
+#include "gui/frame/mdi_quor.h"
 
 #include <QApplication>
 #include <QDir>

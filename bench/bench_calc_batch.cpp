@@ -4,8 +4,8 @@
 // methane with the polynomial ideal-gas cp.
 #include "calc/calc_batch.h"
 #include "core/project_state.h"
-#include "engine/eos_parameter.h"
 #include "dienste/skript_oberflaeche.h"
+#include "engine/eos_parameter.h"
 
 #include "bench_stoffe.h"
 

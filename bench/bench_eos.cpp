@@ -2,10 +2,10 @@
 // of state, the saturation pressure from low T to just below TKrit, and the saturation temperature
 // by its secant and its scanning search. Peng/Robinson methane throughout.
 #include "core/project_state.h"
+#include "dienste/skript_oberflaeche.h"
 #include "engine/eos_parameter.h"
 #include "engine/saettigung.h"
 #include "engine/zustand.h"
-#include "dienste/skript_oberflaeche.h"
 
 #include "bench_stoffe.h"
 

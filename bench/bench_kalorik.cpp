@@ -2,10 +2,10 @@
 // one phase, the caloric values of a state (with its exergies and the restoring saturation call) and
 // both saturated phases at T. Peng/Robinson methane with the polynomial cp throughout.
 #include "core/project_state.h"
+#include "dienste/skript_oberflaeche.h"
 #include "engine/eos_parameter.h"
 #include "engine/kalorik.h"
 #include "engine/zustand.h"
-#include "dienste/skript_oberflaeche.h"
 
 #include "bench_stoffe.h"
 

@@ -1,11 +1,11 @@
 // Writing a project's text, and loading a project against the default database: with the database
 // read again from its file (as every load does) and with the database already held.
 #include "core/projekt_datei.h"
+#include "dienste/skript_oberflaeche.h"
 #include "substance/datenbank.h"
 #include "substance/projekt_laden.h"
 #include "substance/stoff_laden.h"
 #include "substance/stoff_wahl_suche.h"
-#include "dienste/skript_oberflaeche.h"
 
 #include <benchmark/benchmark.h>
 

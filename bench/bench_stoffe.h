@@ -2,8 +2,8 @@
 #pragma once
 
 #include "core/project_state.h"
-#include "engine/eos_parameter.h"
 #include "dienste/skript_oberflaeche.h"
+#include "engine/eos_parameter.h"
 
 namespace quor::bench {
 

@@ -12,10 +12,10 @@
 #include "core/listen_datei.h"
 #include "core/projekt_datei.h"
 #include "core/text_kodierung.h"
+#include "dienste/skript_oberflaeche.h"
 #include "substance/datenbank.h"
 #include "substance/datenbank_satz.h"
 #include "substance/projekt_laden.h"
-#include "dienste/skript_oberflaeche.h"
 
 namespace {
 

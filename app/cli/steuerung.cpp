@@ -3,9 +3,9 @@
 #include "calc/calc_eingabe.h"
 #include "calc/parinput.h"
 #include "calc/rechen_befehle.h"
-#include "core/rechen_art.h"
 #include "cli/ausgabe.h"
 #include "cli/fehler.h"
+#include "core/rechen_art.h"
 
 #include <map>
 #include <ostream>
@@ -62,7 +62,8 @@ void Steuerung::Starten(int16_t art, bool stapel, std::ostream& fehler) {
   s.Rechnung.StapelModus = stapel;
   if (a.Gleichgewicht && (art != art::Tp || stapel)) throw Eingabefehler("--equilibrium belongs to calc 3");
   // The question whether T and p lie on the saturation line is answered by --equilibrium.
-  if (art == art::Tp && !stapel) z_.ui.antworten.push_back(a.Gleichgewicht ? ui::Antwort::Ja : ui::Antwort::Nein);
+  if (art == art::Tp && !stapel)
+    z_.ui.antworten.push_back(a.Gleichgewicht ? ui::Antwort::Ja : ui::Antwort::Nein);
   ablauf_.Menue(name, index);
   z_.ui.antworten.clear();
   if (s.RechenArt == art::Keine)

@@ -17,4 +17,4 @@ namespace quor {
 void CalcBatch(ProjectState& s, ui::Oberflaeche& ui, ErgebnisSeite& seite, RechenKontext& k, int16_t art,
                int16_t& punkt, double& p, float& eta, std::string& ausgang);
 
-}  // namespace quor
+} // namespace quor

@@ -1,8 +1,8 @@
 #include "substance/stoff_wahl_suche.h"
 
 #include "core/festtext.h"
-#include "substance/synonyme.h"
 #include "dienste/oberflaeche.h"
+#include "substance/synonyme.h"
 
 #include <vector>
 

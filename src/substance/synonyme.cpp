@@ -3,8 +3,8 @@
 #include "core/datei_io.h"
 #include "core/festtext.h"
 #include "core/text_kodierung.h"
-#include "substance/datenbank.h"
 #include "dienste/oberflaeche.h"
+#include "substance/datenbank.h"
 
 #include <chrono>
 #include <ctime>

@@ -1,8 +1,8 @@
 #include "gui/frame/rahmen_dienste.h"
 
 #include "engine/eos_parameter.h"
-#include "substance/datenbank.h"
 #include "gui/frame/projekt_dialog_dienste.h"
+#include "substance/datenbank.h"
 
 namespace quor::ui {
 

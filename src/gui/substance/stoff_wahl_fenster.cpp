@@ -1,7 +1,7 @@
 #include "gui/substance/stoff_wahl_fenster.h"
 
-#include "substance/synonyme.h"
 #include "gui/substance/text_fenster.h"
+#include "substance/synonyme.h"
 
 #include <QApplication>
 #include <QComboBox>
