@@ -301,9 +301,7 @@ TEST(StoffLaden, CpFlagsAndTheSinhCoshC2) {
   r.Zelle(110, 0.f).Zelle(111, 5.f).Zelle(115, 10.f).Zelle(116, 20.f); // solid cp from C1 alone
   r.Zelle(74, 0.f);                                                    // sinh/cosh without a range
   const StoffGruppe t = Geladen(r, failed).Stoff;
-  EXPECT_EQ(t.CpSinh[2], 0.1f);
-  EXPECT_FALSE(t.CpSinhOK);
-  EXPECT_TRUE(t.CpSOK);
+  EXPECT_EQ(std::tie(t.CpSinh[2], t.CpSinhOK, t.CpSOK), std::make_tuple(0.1f, false, true));
   r.Zelle(69, 0.f); // neither C0 nor C2: C2 stays 0
   EXPECT_EQ(Geladen(r, failed).Stoff.CpSinh[2], 0.f);
 }

@@ -148,8 +148,9 @@ TEST_F(ProjektLadenTest, ATruncatedOrMissingFileIsReportedWithThePartlyUpdatedSt
   ASSERT_EQ(ui.Meldungen().size(), 1u);
   EXPECT_EQ(ui.Letzte().text, "Meldung von Sub ProjektLaden:\r\nEinlesen hinter Dateiende (Zeile 12)");
   EXPECT_EQ(ui.Letzte().titel, "Fehler bei ProjektLaden");
-  EXPECT_EQ(s.Stoff.StoffName, "Ethanol"); // the substance came before the break
-  EXPECT_EQ(std::tie(s.Modell.EOSIndex, s.Modell.CpIndex), std::make_tuple(6, 2)); // cp not reached
+  // The substance and the EOS came before the break, the cp equation did not.
+  EXPECT_EQ(std::tie(s.Stoff.StoffName, s.Modell.EOSIndex, s.Modell.CpIndex),
+            std::make_tuple("Ethanol", 6, 2));
 
   // A file that ends within its first three lines changes nothing at all.
   s = Frisch();
