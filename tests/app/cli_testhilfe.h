@@ -1,6 +1,6 @@
 // Shared by the end-to-end tests of quor-cli: running the built executable with its output and exit
-// code captured, a strict reader of its JSON output, a scratch folder per test, and the numbers of
-// the Peng/Robinson equation for checks made independently of the program.
+// code captured, a strict reader of its JSON output, a scratch folder per test, and the Peng/Robinson
+// equation written out for checks made independently of the program.
 #pragma once
 
 #include "dienste/kind_prozess.h"
@@ -9,12 +9,14 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <random>
+#include <regex>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <unistd.h>
 #include <vector>
 
@@ -35,13 +37,9 @@ inline std::string LeseDatei(const fs::path& pfad) {
 
 // A folder of its own, removed at the end of the test.
 struct Arbeitsordner {
-  fs::path pfad;
-  Arbeitsordner() {
-    std::random_device zufall;
-    pfad = fs::temp_directory_path() /
-           ("quor_cli_test_" + std::to_string(getpid()) + "_" + std::to_string(zufall()));
-    fs::create_directories(pfad);
-  }
+  fs::path pfad = fs::temp_directory_path() / ("quor_cli_test_" + std::to_string(getpid()) + "_" +
+                                               std::to_string(std::random_device{}()));
+  Arbeitsordner() { fs::create_directories(pfad); }
   ~Arbeitsordner() {
     std::error_code fehler;
     fs::remove_all(pfad, fehler);
@@ -50,18 +48,17 @@ struct Arbeitsordner {
 };
 
 struct Ergebnis {
-  int code = -1;      // exit code; 128 + signal number when the program was killed
+  int code = -1;      // exit code; -1 when the program did not end by itself
   std::string aus;    // stdout
   std::string fehler; // stderr
 };
 
-// Runs `programm` with `argumente` in `verzeichnis` (a scratch folder when empty), through the
+// Runs quor-cli with `argumente` in `verzeichnis` (a scratch folder when empty), through the
 // program's own child-process launcher.
-inline Ergebnis StarteProgramm(const std::string& programm, const std::vector<std::string>& argumente,
-                               const std::string& verzeichnis = "") {
+inline Ergebnis Starte(const std::vector<std::string>& argumente, const std::string& verzeichnis = "") {
   Arbeitsordner puffer;
   ui::ProzessAuftrag auftrag;
-  auftrag.programm = programm;
+  auftrag.programm = QUOR_CLI;
   auftrag.argumente = argumente;
   auftrag.arbeitsVerzeichnis = verzeichnis.empty() ? puffer.pfad.string() : verzeichnis;
   auftrag.ausgabeDatei = puffer / "stdout";
@@ -70,20 +67,12 @@ inline Ergebnis StarteProgramm(const std::string& programm, const std::vector<st
   const ui::ProzessStatus status = ui::StarteKindProzess(auftrag);
   Ergebnis e;
   if (status.ergebnis != ui::ProzessErgebnis::Beendet) return e;
-  e.code = status.exitCode;
-  e.aus = LeseDatei(auftrag.ausgabeDatei);
-  e.fehler = LeseDatei(auftrag.fehlerDatei);
+  e = {status.exitCode, LeseDatei(auftrag.ausgabeDatei), LeseDatei(auftrag.fehlerDatei)};
   // In the sanitizer build a fault of the program shows as a report on stderr.
   for (const char* bericht : {"AddressSanitizer", "LeakSanitizer", "runtime error:"})
     EXPECT_EQ(e.fehler.find(bericht), std::string::npos) << e.fehler;
   return e;
 }
-
-inline Ergebnis Starte(const std::vector<std::string>& argumente, const std::string& verzeichnis = "") {
-  return StarteProgramm(QUOR_CLI, argumente, verzeichnis);
-}
-
-// ---- a strict JSON reader: any deviation from the grammar fails the test ----
 
 struct Json {
   enum class Typ { Null, Bool, Zahl, Text, Liste, Objekt } typ = Typ::Null;
@@ -93,11 +82,6 @@ struct Json {
   std::vector<Json> liste;
   std::vector<std::pair<std::string, Json>> objekt;
 
-  bool Hat(const std::string& schluessel) const {
-    for (const auto& [k, v] : objekt)
-      if (k == schluessel) return true;
-    return false;
-  }
   const Json& operator[](const std::string& schluessel) const {
     for (const auto& [k, v] : objekt)
       if (k == schluessel) return v;
@@ -125,158 +109,82 @@ struct Json {
   }
 };
 
+// A strict reader: any deviation from the JSON grammar fails.
 class JsonLeser {
 public:
   explicit JsonLeser(const std::string& t) : t_(t) {}
-
-  bool Lies(Json& j) {
-    if (!Wert(j)) return false;
-    Leer();
-    return i_ == t_.size();
-  }
+  bool Lies(Json& j) { return Wert(j) && (Leer(), i_ == t_.size()); }
 
 private:
+  char C() const { return i_ < t_.size() ? t_[i_] : '\0'; }
   void Leer() {
-    while (i_ < t_.size() && (t_[i_] == ' ' || t_[i_] == '\n' || t_[i_] == '\r' || t_[i_] == '\t'))
+    while (C() == ' ' || C() == '\n' || C() == '\r' || C() == '\t')
       ++i_;
   }
-  bool Wort(const char* w) {
-    const std::string s(w);
-    if (t_.compare(i_, s.size(), s) != 0) return false;
-    i_ += s.size();
-    return true;
+  bool Zeichen(char c) {
+    Leer();
+    return C() == c && ++i_;
   }
   bool Text(std::string& s) {
-    if (t_[i_] != '"') return false;
-    for (++i_; i_ < t_.size(); ++i_) {
-      const char c = t_[i_];
-      if (c == '"') {
-        ++i_;
-        return true;
-      }
-      if (static_cast<unsigned char>(c) < 0x20) return false;
+    if (!Zeichen('"')) return false;
+    for (char c; (c = C()) != '"'; ++i_) {
+      if (static_cast<unsigned char>(c) < 0x20) return false; // a control character, or the end
       if (c != '\\') {
         s += c;
         continue;
       }
-      if (++i_ >= t_.size()) return false;
-      switch (t_[i_]) {
-      case '"':
-        s += '"';
-        break;
-      case '\\':
-        s += '\\';
-        break;
-      case '/':
-        s += '/';
-        break;
-      case 'n':
-        s += '\n';
-        break;
-      case 'r':
-        s += '\r';
-        break;
-      case 't':
-        s += '\t';
-        break;
-      case 'b':
-        s += '\b';
-        break;
-      case 'f':
-        s += '\f';
-        break;
-      case 'u': {
-        if (i_ + 4 >= t_.size()) return false;
+      const std::string kurz = "\"\\/bfnrt", steht = "\"\\/\b\f\n\r\t";
+      if (++i_ < t_.size() && C() == 'u') { // the writer escapes control characters only
         const long code = std::strtol(t_.substr(i_ + 1, 4).c_str(), nullptr, 16);
-        if (code >= 0x80) return false; // the writer escapes control characters only
+        if (i_ + 4 >= t_.size() || code >= 0x80) return false;
         s += static_cast<char>(code);
         i_ += 4;
-        break;
-      }
-      default:
+      } else if (C() != '\0' && kurz.find(C()) != std::string::npos) {
+        s += steht[kurz.find(C())];
+      } else {
         return false;
       }
     }
-    return false;
-  }
-  bool Zahl(double& x) {
-    const std::size_t anfang = i_;
-    if (t_[i_] == '-') ++i_;
-    if (i_ >= t_.size() || !std::isdigit(static_cast<unsigned char>(t_[i_]))) return false;
-    if (t_[i_] == '0' && i_ + 1 < t_.size() && std::isdigit(static_cast<unsigned char>(t_[i_ + 1])))
-      return false;
-    while (i_ < t_.size() && std::isdigit(static_cast<unsigned char>(t_[i_])))
-      ++i_;
-    if (i_ < t_.size() && t_[i_] == '.') {
-      ++i_;
-      if (i_ >= t_.size() || !std::isdigit(static_cast<unsigned char>(t_[i_]))) return false;
-      while (i_ < t_.size() && std::isdigit(static_cast<unsigned char>(t_[i_])))
-        ++i_;
-    }
-    if (i_ < t_.size() && (t_[i_] == 'e' || t_[i_] == 'E')) {
-      ++i_;
-      if (i_ < t_.size() && (t_[i_] == '+' || t_[i_] == '-')) ++i_;
-      if (i_ >= t_.size() || !std::isdigit(static_cast<unsigned char>(t_[i_]))) return false;
-      while (i_ < t_.size() && std::isdigit(static_cast<unsigned char>(t_[i_])))
-        ++i_;
-    }
-    x = std::strtod(t_.substr(anfang, i_ - anfang).c_str(), nullptr);
-    return true;
+    return ++i_;
   }
   bool Wert(Json& j) {
-    Leer();
-    if (i_ >= t_.size()) return false;
-    const char c = t_[i_];
-    if (c == '{') {
+    if (Zeichen('{')) {
       j.typ = Json::Typ::Objekt;
-      ++i_;
-      Leer();
-      if (i_ < t_.size() && t_[i_] == '}') return ++i_, true;
-      for (;;) {
-        Leer();
+      if (Zeichen('}')) return true;
+      do {
         std::string k;
-        if (i_ >= t_.size() || !Text(k)) return false;
-        Leer();
-        if (i_ >= t_.size() || t_[i_++] != ':') return false;
         Json v;
-        if (!Wert(v)) return false;
+        if (!Text(k) || !Zeichen(':') || !Wert(v)) return false;
         j.objekt.emplace_back(k, v);
-        Leer();
-        if (i_ >= t_.size()) return false;
-        if (t_[i_] == ',') {
-          ++i_;
-          continue;
-        }
-        return t_[i_++] == '}';
-      }
+      } while (Zeichen(','));
+      return Zeichen('}');
     }
-    if (c == '[') {
+    if (Zeichen('[')) {
       j.typ = Json::Typ::Liste;
-      ++i_;
-      Leer();
-      if (i_ < t_.size() && t_[i_] == ']') return ++i_, true;
-      for (;;) {
-        Json v;
-        if (!Wert(v)) return false;
-        j.liste.push_back(v);
-        Leer();
-        if (i_ >= t_.size()) return false;
-        if (t_[i_] == ',') {
-          ++i_;
-          continue;
-        }
-        return t_[i_++] == ']';
+      if (Zeichen(']')) return true;
+      do {
+        j.liste.emplace_back();
+        if (!Wert(j.liste.back())) return false;
+      } while (Zeichen(','));
+      return Zeichen(']');
+    }
+    if (C() == '"') return j.typ = Json::Typ::Text, Text(j.text);
+    for (const auto& [wort, typ, b] : {std::tuple{"true", Json::Typ::Bool, true},
+                                       {"false", Json::Typ::Bool, false},
+                                       {"null", Json::Typ::Null, false}})
+      if (t_.compare(i_, std::strlen(wort), wort) == 0) {
+        i_ += std::strlen(wort);
+        return j.typ = typ, j.b = b, true;
       }
-    }
-    if (c == '"') {
-      j.typ = Json::Typ::Text;
-      return Text(j.text);
-    }
-    if (Wort("true")) return j.typ = Json::Typ::Bool, j.b = true, true;
-    if (Wort("false")) return j.typ = Json::Typ::Bool, j.b = false, true;
-    if (Wort("null")) return j.typ = Json::Typ::Null, true;
+    static const std::regex zahl(R"(-?(0|[1-9][0-9]*)(\.[0-9]+)?([eE][+-]?[0-9]+)?)");
+    std::smatch m;
+    if (!std::regex_search(t_.begin() + static_cast<long>(i_), t_.end(), m, zahl,
+                           std::regex_constants::match_continuous))
+      return false;
     j.typ = Json::Typ::Zahl;
-    return Zahl(j.zahl);
+    j.zahl = std::strtod(m.str().c_str(), nullptr);
+    i_ += static_cast<std::size_t>(m.length());
+    return true;
   }
 
   const std::string& t_;
@@ -286,8 +194,7 @@ private:
 // The whole output must be one JSON document.
 inline Json LeseJson(const std::string& text) {
   Json j;
-  JsonLeser leser(text);
-  EXPECT_TRUE(leser.Lies(j)) << "not valid JSON:\n" << text.substr(0, 2000);
+  EXPECT_TRUE(JsonLeser(text).Lies(j)) << "not valid JSON:\n" << text.substr(0, 2000);
   return j;
 }
 
@@ -309,22 +216,17 @@ inline ::testing::AssertionResult NaheRel(double ist, double soll, double tol) {
 constexpr double R = 8.31451; // kJ/(kmol K)
 
 // The cubic equation p = R T/(v - b) - a(T)/((v + c)(v + d)) with the constants that `info` reports
-// (Soave form a(T) = a0 (1 + m (1 - sqrt(T/Tc)))^2 for aForm 2, a0 T^aExp otherwise; b, c, d
-// as b0 T^bExp and so on), written out
+// (Soave form a(T) = a0 (1 + m (1 - sqrt(T/Tc)))^2; b, c, d constant for Peng/Robinson), written out
 // here so that the program's roots can be checked against the equation itself.
 inline double DruckAusInfo(const Json& info, double T, double v) {
-  const double a0 = info["a0"].Z(), m = info["aExp"].Z(), Tc = info["TKrit"].Z();
-  const double a = info["aForm"].Z() == 2 ? a0 * std::pow(1 + m * (1 - std::sqrt(T / Tc)), 2)
-                                          : a0 * std::pow(T, info["aExp"].Z());
-  const double b = info["b0"].Z() * std::pow(T, info["bExp"].Z());
-  const double c = info["c0"].Z() * std::pow(T, info["cExp"].Z());
-  const double d = info["d0"].Z() * std::pow(T, info["dExp"].Z());
-  return R * T / (v - b) - a / ((v + c) * (v + d));
+  const double m = info["aExp"].Z(), Tc = info["TKrit"].Z();
+  const double a = info["a0"].Z() * std::pow(1 + m * (1 - std::sqrt(T / Tc)), 2);
+  return R * T / (v - info["b0"].Z()) - a / ((v + info["c0"].Z()) * (v + info["d0"].Z()));
 }
 
-// True when the equation's pressure passes through `p` within a relative step `dv` of the volume
-// `v` either way: the volume is a root of p(T, v) = p to that precision. The liquid branch is too
-// stiff for a test on the pressure itself.
+// True when the equation's pressure passes through `p` within a relative step `dv` of the volume `v`
+// either way: the volume is a root of p(T, v) = p to that precision. The liquid branch is too stiff
+// for a test on the pressure itself.
 inline ::testing::AssertionResult IstWurzel(const Json& info, double T, double p, double v,
                                             double dv = 1e-6) {
   const double p1 = DruckAusInfo(info, T, v * (1 - dv)) - p, p2 = DruckAusInfo(info, T, v * (1 + dv)) - p;

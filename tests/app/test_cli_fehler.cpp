@@ -1,107 +1,70 @@
-// quor-cli end to end: usage and input errors end with code 2 and a message, a failed calculation
-// with code 1, and no input makes the program crash.
+// quor-cli's exit codes: a usage or input error ends with 2, a calculation that fails with 1, each
+// with its message on stderr and nothing on stdout; strange input never crashes the program.
 #include "cli_testhilfe.h"
 
 namespace quor::test {
 namespace {
 
-TEST(CliFehler, EingabefehlerEndenMitCode2UndEinerMeldung) {
-  const std::vector<std::pair<std::vector<std::string>, std::string>> faelle = {
-      {{"--substance", "Xyzzy", "info"}, "Fehler bei Stoffwahl: Unter dieser Bezeichnung nichts gefunden."},
-      {{"--substance", "#99999", "info"}, "no substance with the system number #99999"},
-      {{"--substance", "Wasser", "calc", "3", "--T", "abc", "--p", "100"},
-       "keine gültige Eingabe (--T \"abc\")"},
-      {{"--substance", "Wasser", "calc", "3", "--T", "-5", "--p", "100"},
-       "keine gültige Eingabe (--T \"-5\")"},
-      {{"--substance", "Wasser", "--h-ref", "1x", "info"}, "keine gültige Eingabe (--h-ref \"1x\")"},
-      {{"--db", "nicht_da.Q07", "list"}, "nicht gefunden"},
-      {{"--substance", "Wasser", "batch", "3", "--data", "nicht_da.BAQ"},
-       "Message from Sub LadeBatchFile: Datei nicht gefunden:"},
-      {{"--substance", "Wasser", "batch", "3", "--data", Testdatei("kaputt.BAQ")}, "Typen unverträglich"},
-      {{"--substance", "Wasser", "--eos", "14", "calc", "2", "--T", "300", "--rho", "900"},
-       "nur möglich mit einer kubischen EOS"},
-      {{"--substance", "Wasser", "--eos", "14", "--concept", "global", "info"},
-       "GLOBAL-Berechnung ist nur mit einer kubischen EOS möglich (=> Fenster \"Modelle\")."},
-      {{"--substance", "Wasser", "--reference", "10", "--h-ref", "5", "info"},
-       "--h-ref can only be given with --reference 1"},
-      {{"--substance", "Wasser", "calc", "3", "--T", "300"}, "calc 3 needs --T --p"},
-      {{"--substance", "Wasser", "calc", "3", "--T", "300", "--p", "1", "--m", "2"},
-       "calc 3 does not use --m"},
-      {{"--substance", "Wasser", "calc", "12", "--T", "300"}, "kind 12 is not available for calc"},
-      {{"--substance", "Wasser", "batch", "9", "--data", "x.BAQ"}, "kind 9 is not available for batch"},
-      {{"--substance", "Wasser", "info", "--T", "300"}, "option --T is not used by command info"},
-      {{"--substance", "Wasser", "--bogus", "info"}, "unknown option --bogus"},
-      {{"frobnicate"}, "unknown command 'frobnicate'"},
-      {{}, "no command given"},
-      {{"info"}, "command info needs --substance"},
+struct Fall {
+  std::vector<std::string> argumente;
+  int code;
+  std::string meldung;
+};
+
+TEST(CliFehler, EingabefehlerEndenMitCode2UndGescheiterteRechnungenMitCode1) {
+  const std::string W = "Wasser";
+  const Fall faelle[] = {
+      {{"--substance", "Xyzzy", "info"}, 2, "Unter dieser Bezeichnung nichts gefunden."},
+      {{"--substance", W, "calc", "3", "--T", "abc", "--p", "100"}, 2, "keine gültige Eingabe (--T \"abc\")"},
+      {{"--db", "nicht_da.Q07", "list"}, 2, "nicht gefunden"},
+      {{"--substance", W, "batch", "3", "--data", "nicht_da.BAQ"}, 2, "Datei nicht gefunden:"},
+      {{"--substance", W, "--eos", "14", "calc", "2", "--T", "300", "--rho", "900"}, 2, "kubischen EOS"},
+      {{"--substance", W, "--eos", "14", "--hlv", "7", "info"},
+       2,
+       "--hlv 7 (aus kub.-EOS (GLOBAL-Berechnung)) is not offered"},
+      {{"--substance", W, "calc", "3", "--T", "300"}, 2, "calc 3 needs --T --p"},
+      {{"--substance", W, "calc", "3", "--T", "300", "--p", "1", "--m", "2"}, 2, "calc 3 does not use --m"},
+      {{"--substance", W, "calc", "12", "--T", "300"}, 2, "kind 12 is not available for calc"},
+      {{"--substance", W, "--bogus", "info"}, 2, "unknown option --bogus"},
+      {{"frobnicate"}, 2, "unknown command 'frobnicate'"},
+      {{"info"}, 2, "command info needs --substance"},
+      // Above the critical temperature there is no vapour pressure, and PARTIAL has no vessel.
+      {{"--substance", W, "calc", "4", "--T", "700"}, 1, "the calculation failed"},
+      {{"--substance", W, "calc", "10", "--T", "700", "--m", "1", "--V", "1"}, 1, "the page closed at once"},
+      // Ethane's critical temperature (305 K) lies between the first and the second point.
+      {{"--substance", "Ethan", "batch", "4", "--data", Testdatei("wasser.BAQ")},
+       1,
+       "failed for at least one point"},
   };
-  for (const auto& [argumente, meldung] : faelle) {
-    const Ergebnis e = Starte(argumente);
-    EXPECT_EQ(e.code, 2) << meldung;
-    EXPECT_NE(e.fehler.find(meldung), std::string::npos) << "expected \"" << meldung << "\" in:\n"
-                                                         << e.fehler;
-    EXPECT_TRUE(e.aus.empty()) << meldung;
+  for (const Fall& f : faelle) {
+    const Ergebnis e = Starte(f.argumente);
+    EXPECT_EQ(e.code, f.code) << f.meldung;
+    EXPECT_NE(e.fehler.find(f.meldung), std::string::npos) << "expected \"" << f.meldung << "\" in:\n"
+                                                           << e.fehler;
+    if (f.code == 2) {
+      EXPECT_TRUE(e.aus.empty()) << f.meldung;
+    }
   }
-}
 
-TEST(CliFehler, GescheiterteRechnungEndetMitCode1) {
-  // Above the critical temperature there is no vapour pressure.
-  const Json r = StarteJson({"--substance", "Wasser", "calc", "4", "--T", "700"}, 1);
-  EXPECT_FALSE(r["ok"].B());
-  EXPECT_TRUE(r["page"]["par1"]["red"].B());
-  EXPECT_NE(r["page"]["par1"]["text"].T().find("> T(cr) !!!"), std::string::npos);
-  EXPECT_EQ(r["StapelErgebnis"]["Phase"].T(), "   ");
+  const Ergebnis hilfe = Starte({"--help"});
+  EXPECT_EQ(hilfe.code, 0);
+  for (const char* text : {"list", "info", "calc KIND", "batch KIND", "Exit codes"})
+    EXPECT_NE(hilfe.aus.find(text), std::string::npos) << text;
 
-  // The PARTIAL vessel above the critical temperature closes its page at once.
-  const Ergebnis kessel =
-      Starte({"--substance", "Wasser", "calc", "10", "--T", "700", "--m", "1", "--V", "1"});
-  EXPECT_EQ(kessel.code, 1);
-  EXPECT_NE(kessel.fehler.find("PARTIAL-Berechnung nur für Phasengleichgewicht"), std::string::npos)
-      << kessel.fehler;
-  EXPECT_NE(kessel.fehler.find("the calculation failed (the page closed at once)"), std::string::npos);
-}
-
-TEST(CliFehler, KeinAbsturzBeiSeltsamerEingabe) {
-  const std::vector<std::vector<std::string>> faelle = {
+  const std::vector<std::vector<std::string>> seltsam = {
       {"--substance", "", "info"},
-      {"--substance", "#", "info"},
-      {"--substance", "#12345678901234567890", "info"},
       {"--substance", "\xff\xfe", "info"},
-      {"--substance", "Wasser", "calc", "3", "--T=", "--p", "1"},
-      {"--substance", "Wasser", "calc", "3", "--T", "1e308", "--p", "1e308"},
-      {"--substance", "Wasser", "calc", "3", "--T", "1e-300", "--p", "1e-300"},
-      {"--substance", "Wasser", "calc", "1", "--T", "300", "--rho", "1e30"},
-      {"--substance", "Wasser", "calc", "13", "--p", "1", "--rho", "1e-30"},
-      {"--substance", "Wasser", "calc", "9", "--T", "300", "--m", "1e20", "--V", "1e-20"},
-      {"--substance", "Wasser", "calc", "3", "--T", "647.14", "--p", "22064", "--sections", "4",
-       "--functions"},
-      {"--substance", "Wasser", "--concept", "partial", "calc", "4", "--T", "373", "--ref-point",
-       "1e30,1e30,1e30,1e30"},
-      {"--substance", "Wasser", "calc", "4", "--T", "373", "--ref-point", "1,2,3"},
-      {"--substance", "Wasser", "--eos", "0", "calc", "8", "--T", "300", "--p", "100", "--sections", "4"},
-      {"--substance", "Wasser", "--volume-mode", "2", "--energy-mode", "2", "calc", "8", "--T", "300", "--p",
-       "1"},
-      {"--substance", "Wasser", "calc", "24", "--T", "1"},
+      {"--substance", W, "calc", "3", "--T", "1e308", "--p", "1e308"},
+      {"--substance", W, "calc", "3", "--T", "1e-300", "--p", "1e-300"},
+      {"--substance", W, "calc", "1", "--T", "300", "--rho", "1e30"},
+      {"--substance", W, "calc", "3", "--T", "647.14", "--p", "22064", "--sections", "4", "--functions"},
       {"--db", "/", "list"},
-      {"--db", Testdatei("wasser.BAQ"), "list"},
-      {"--json", "--json", "list"},
   };
-  for (const auto& argumente : faelle) {
-    const Ergebnis e = Starte(argumente);
-    std::string zeile;
-    for (const std::string& a : argumente)
-      zeile += a + " ";
-    EXPECT_GE(e.code, 0) << zeile;
-    EXPECT_LE(e.code, 2) << zeile << "\n" << e.fehler;
+  for (const auto& argumente : seltsam) {
+    const int code = Starte(argumente).code;
+    EXPECT_TRUE(code >= 0 && code <= 2)
+        << argumente[argumente.size() - 2] << " " << argumente.back() << ": " << code;
   }
-}
-
-TEST(CliHilfe, NenntBefehleUndOptionen) {
-  const Ergebnis e = Starte({"--help"});
-  EXPECT_EQ(e.code, 0);
-  for (const char* text :
-       {"list", "info", "calc KIND", "batch KIND", "--ref-point", "--equilibrium", "Exit codes"})
-    EXPECT_NE(e.aus.find(text), std::string::npos) << text;
 }
 
 } // namespace
