@@ -1,6 +1,6 @@
 // quor-cli end to end, one run per command: the substance list against the database's source, the
 // constants of info against Peng and Robinson's closed forms, and the volumes of calc and batch
-// against the equation of state written out in the test.
+// against the equation of state written out in the test; and the two older kinds of measured data.
 #include "cli_testhilfe.h"
 
 namespace quor::test {
@@ -100,6 +100,20 @@ TEST(CliBefehle, BatchRechnetJedenLebendenPunktUndSchreibtListeUndProtokoll) {
     ASSERT_GT(text.size(), 2u) << datei;
     EXPECT_EQ(text.substr(text.size() - 2), "\r\n") << datei;
   }
+}
+
+// The reader of the measured data: the older form with five values a row has no cp, and data of
+// another substance are taken after the warning (answered yes without a terminal).
+TEST(CliBefehle, BatchLiestDieAeltereFormUndDatenEinesFremdenStoffs) {
+  const Json r = StarteJson({"--substance", "Wasser", "batch", "3", "--data", Testdatei("wasser_5.BAQ")});
+  ASSERT_EQ(r.liste.size(), 2u);
+  EXPECT_EQ(r[0]["Vorgabe"]["Cp"].Z(), 0);
+  EXPECT_EQ(static_cast<float>(r[1]["Vorgabe"]["RhoL"].Z()), 973.7f);
+  EXPECT_EQ(r[1]["Vorgabe"]["HLV"].Z(), 41716);
+  const Ergebnis e = Starte({"--substance", "Methan", "batch", "3", "--data", Testdatei("wasser.BAQ")});
+  EXPECT_EQ(e.code, 0) << e.fehler;
+  EXPECT_NE(e.fehler.find("WARNUNG: Sie versuchen einen Datensatz für einen"), std::string::npos) << e.fehler;
+  EXPECT_NE(e.aus.find("\n    5  V+L   T = 450 K"), std::string::npos) << e.aus;
 }
 
 } // namespace

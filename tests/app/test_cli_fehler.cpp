@@ -18,6 +18,7 @@ TEST(CliFehler, EingabefehlerEndenMitCode2UndGescheiterteRechnungenMitCode1) {
       {{"--substance", W, "calc", "3", "--T", "abc", "--p", "100"}, 2, "keine gültige Eingabe (--T \"abc\")"},
       {{"--db", "nicht_da.Q07", "list"}, 2, "nicht gefunden"},
       {{"--substance", W, "batch", "3", "--data", "nicht_da.BAQ"}, 2, "Datei nicht gefunden:"},
+      {{"--substance", W, "batch", "3", "--data", Testdatei("kaputt.BAQ")}, 2, "Typen unverträglich"},
       {{"--substance", W, "--eos", "14", "calc", "2", "--T", "300", "--rho", "900"}, 2, "kubischen EOS"},
       {{"--substance", W, "--eos", "14", "--hlv", "7", "info"},
        2,
