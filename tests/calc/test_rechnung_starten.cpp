@@ -35,7 +35,6 @@ TEST(RechnungStarten, KindTwoNeedsACubicModel) {
 
   Start kubisch(6);
   EXPECT_EQ(kubisch.Menue("mnuCalc", 1), (Schritte{"frmQCalcOut", "frmParinput"}));
-  EXPECT_EQ(kubisch.s.Rechnung.ParinputModus, 102);
   EXPECT_TRUE(kubisch.ui.protokoll.empty());
 }
 
@@ -53,7 +52,6 @@ TEST(RechnungStarten, KindThreeAsksForTheEquilibrium) {
                                  "und eine \"PARTIAL-Berechnung\" durchgeführt.");
   EXPECT_EQ(ja.ui.Letzte().titel, "T-p-Vorgabe");
   EXPECT_TRUE(ja.s.Rechnung.TpGleichgewicht);
-  EXPECT_EQ(ja.s.Rechnung.ParinputModus, 103);
 
   Start nein(6);
   EXPECT_EQ(nein.Menue("mnuCalc", 2), (Schritte{"frmQCalcOut", "frmParinput"}));
@@ -73,7 +71,6 @@ TEST(RechnungStarten, EquilibriaGoThroughTheConceptDialog) {
   Start ohneBenson(6, 7);
   EXPECT_EQ(ohneBenson.Menue("mnuCalc", 8), (Schritte{"frmQCalcOut", "frmParinput"}));
   EXPECT_EQ(ohneBenson.Menue("mnuCalc_sub_database", 1), (Schritte{"frmQCalcOut", "frmParinput"}));
-  EXPECT_EQ(ohneBenson.s.Rechnung.ParinputModus, 114);
   EXPECT_EQ(ohneBenson.Menue("mnuCalc", 13), Schritte{"Prozess"});
   EXPECT_EQ(ohneBenson.s.RechenArt, 12);
 }
@@ -84,7 +81,6 @@ TEST(RechnungStarten, TheVesselByItsConcept) {
   Start t(6);
   EXPECT_EQ(t.Menue("mnuCalc", 15), (Schritte{"frmQCalcOut", "frmParinput", "nach vorne"}));
   EXPECT_TRUE(t.s.Modell.RechnungGlobal);
-  EXPECT_EQ(t.s.Rechnung.ParinputModus, 33);
   EXPECT_EQ(t.Menue("mnuCalc", 16), (Schritte{"frmCalcIn", "nach vorne"}));
   EXPECT_FALSE(t.s.Modell.RechnungGlobal);
   EXPECT_EQ(t.s.RechenArt, 10);
@@ -104,15 +100,6 @@ TEST(RechnungStarten, BatchModeOpensOnlyThePage) {
   Start exit(6);
   exit.fenster.ergebnisOeffnet = false;
   EXPECT_EQ(exit.Menue("mnuCalc", 0), Schritte{"frmQCalcOut"});
-}
-
-// Without a kind set the start takes kind 1.
-TEST(RechnungStarten, NoKindMeansKindOne) {
-  Start t(6);
-  RechnungStarten(t.s, t.ui, t.fenster.Fenster());
-  EXPECT_EQ(t.s.RechenArt, 1);
-  EXPECT_EQ(t.s.Rechnung.ParinputModus, 101);
-  EXPECT_EQ(t.fenster.schritte, (Schritte{"frmQCalcOut", "frmParinput"}));
 }
 
 } // namespace

@@ -1,11 +1,14 @@
-// A frame logic whose services record their calls, and a project state in each frame state.
+// A frame logic whose services record their calls, a project state in each frame state, and a
+// program directory of its own.
 #pragma once
 
 #include "core/rahmen.h"
 #include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -63,6 +66,15 @@ struct Rahmen {
     f.Stoff = f.KritischerPunkt = f.Modell = f.Diagramme = f.Saettigung = true;
     s.Modell.EOSIndex = 6;
   }
+};
+
+// A folder in the temporary directory for the program directory, removed at the end.
+struct ProgrammOrdner {
+  std::filesystem::path pfad = std::filesystem::temp_directory_path() /
+                               ("quor_rahmen_" + std::to_string(getpid()) + "_" +
+                                ::testing::UnitTest::GetInstance()->current_test_info()->name());
+  ProgrammOrdner() { std::filesystem::create_directories(pfad); }
+  ~ProgrammOrdner() { std::filesystem::remove_all(pfad); }
 };
 
 } // namespace quor::test

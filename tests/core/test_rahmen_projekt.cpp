@@ -5,7 +5,7 @@
 #include "core/projekt_datei.h"
 #include "rahmen_hilfe.h"
 
-#include <filesystem>
+#include <fstream>
 
 namespace quor::test {
 namespace {
@@ -20,6 +20,8 @@ struct ProjektRahmen : Rahmen {
   std::string batch;
   bool ladenErfolg = true;
   int16_t fitSpalteBeimLaden = -1;
+  std::string dialogAntwort;
+  std::string batchGeladen;
 
   ProjektRahmen() {
     d.ProjektLaden = [this](ProjectState& st, const std::string& pfad, std::string& b) {
@@ -40,12 +42,19 @@ struct ProjektRahmen : Rahmen {
     d.DialogeSchliessen = [this] { aufrufe.push_back("DialogeSchliessen"); };
     Bauen();
   }
+  // A reader of measured data that notes the file it was given.
+  void MitLeser() {
+    d.BatchDateiLaden = [this](ProjectState&, const std::string& pfad) {
+      batchGeladen = pfad;
+      return true;
+    };
+    Bauen();
+  }
   void PunkteHalten(int n) {
     s.Mess.ExpAnzahl = static_cast<int16_t>(n);
     s.Mess.ExpDaten.resize(static_cast<std::size_t>(n) + 1);
     s.Mess.BatchDateiTitel = "alt.BAQ";
   }
-  std::string dialogAntwort;
 };
 
 TEST(ProjektRahmenStart, AQuotedProjectIsLoadedAndTheModelsFollow) {
@@ -57,61 +66,46 @@ TEST(ProjektRahmenStart, AQuotedProjectIsLoadedAndTheModelsFollow) {
   EXPECT_EQ(r.s.Projekt.ProjektDatei, "Methan Versuch.QC6");
   EXPECT_EQ(r.s.Einheiten.vVorgabe, 0.0986f); // the isochore's preset from the tested model
   EXPECT_TRUE(r.ui.protokoll.empty());
-  EXPECT_TRUE(r.logik->Gestartet);
+
+  ProjektRahmen name; // a bare name is taken in the program directory
+  name.logik->Start("\"Versuch.QC6\"");
+  EXPECT_EQ(name.aufrufe.front(), "ProjektLaden Versuch.QC6");
+  EXPECT_EQ(name.s.Projekt.ProjektVerzeichnis, "/quor/programm");
+
+  ProjektRahmen fehler; // a failed load shows no models
+  fehler.ladenErfolg = false;
+  fehler.logik->Start("/projekte/a.QC6");
+  EXPECT_EQ(fehler.aufrufe, (Aufrufe{"ProjektLaden /projekte/a.QC6"}));
+  EXPECT_EQ(fehler.s.Projekt.ProjektDatei, "");
 }
 
-TEST(ProjektRahmenStart, ABareNameIsTakenInTheProgramDirectory) {
-  ProjektRahmen r;
-  r.logik->Start("\"Versuch.QC6\"");
-  EXPECT_EQ(r.aufrufe.front(), "ProjektLaden Versuch.QC6");
-  EXPECT_EQ(r.s.Projekt.ProjektVerzeichnis, "/quor/programm");
-}
-
-TEST(ProjektRahmenStart, ABatchFileOfAnotherTypeIsRefusedAndTheRestStays) {
-  ProjektRahmen r;
-  r.batch = "messung.TXT";
-  bool batchGeladen = false;
-  r.d.BatchDateiLaden = [&](ProjectState&, const std::string&) { return batchGeladen = true; };
-  r.Bauen();
-  r.logik->Start("/projekte/a.QC6");
-  ASSERT_EQ(r.ui.Meldungen().size(), 1u);
-  EXPECT_EQ(r.ui.Letzte().text, KeinBAQ);
-  EXPECT_EQ(r.ui.Letzte().titel, "Ausführung nicht möglich");
-  EXPECT_FALSE(batchGeladen);
-  EXPECT_EQ(r.s.Mess.ExpAnzahl, 0); // the file's count described the refused file
-  EXPECT_FALSE(r.s.Projekt.Freigaben.ExpDaten);
-  EXPECT_EQ(r.aufrufe.back(), "ModellFenster");
-  EXPECT_EQ(r.s.Projekt.ProjektDatei, "a.QC6");
-}
-
-TEST(ProjektRahmenStart, ABatchFileIsLoadedBesideTheProjectAndEnablesTheDataButton) {
+TEST(ProjektRahmenStart, TheProjectsBatchFileIsLoadedBesideItOrRefusedByItsType) {
   ProjektRahmen r;
   r.batch = "messung.baq";
-  std::string geladen;
-  r.d.BatchDateiLaden = [&](ProjectState&, const std::string& pfad) {
-    geladen = pfad;
-    return true;
-  };
-  r.Bauen();
+  r.MitLeser();
   r.logik->Start("/projekte/a.QC6");
   EXPECT_TRUE(r.ui.protokoll.empty());
-  EXPECT_EQ(geladen, "/projekte/messung.baq");
+  EXPECT_EQ(r.batchGeladen, "/projekte/messung.baq");
   EXPECT_EQ(r.s.Mess.ExpAnzahl, 12);
   EXPECT_TRUE(r.s.Projekt.Freigaben.ExpDaten);
 
-  ProjektRahmen ohneLeser; // no reader for measured data in this build: no count without its rows
+  ProjektRahmen fremd;
+  fremd.batch = "messung.TXT";
+  fremd.MitLeser();
+  fremd.logik->Start("/projekte/a.QC6");
+  ASSERT_EQ(fremd.ui.Meldungen().size(), 1u);
+  EXPECT_EQ(fremd.ui.Letzte().text, KeinBAQ);
+  EXPECT_EQ(fremd.ui.Letzte().titel, "Ausführung nicht möglich");
+  EXPECT_EQ(fremd.batchGeladen, "");
+  EXPECT_EQ(fremd.s.Mess.ExpAnzahl, 0); // the file's count described the refused file
+  EXPECT_FALSE(fremd.s.Projekt.Freigaben.ExpDaten);
+  EXPECT_EQ(fremd.aufrufe.back(), "ModellFenster"); // the rest of the project stays
+
+  ProjektRahmen ohneLeser; // without a reader of measured data: no count without its rows
   ohneLeser.batch = "messung.BAQ";
   ohneLeser.logik->Start("/projekte/a.QC6");
   EXPECT_EQ(ohneLeser.s.Mess.ExpAnzahl, 0);
   EXPECT_TRUE(ohneLeser.ui.protokoll.empty());
-}
-
-TEST(ProjektRahmenStart, AFailedLoadShowsNoModels) {
-  ProjektRahmen r;
-  r.ladenErfolg = false;
-  r.logik->Start("/projekte/a.QC6");
-  EXPECT_EQ(r.aufrufe, (Aufrufe{"ProjektLaden /projekte/a.QC6"}));
-  EXPECT_EQ(r.s.Projekt.ProjektDatei, "");
 }
 
 TEST(ProjektMenue, TheOpenDialogLeadsToTheLoadAndAsksAboutHeldPoints) {
@@ -133,7 +127,6 @@ TEST(ProjektMenue, TheOpenDialogLeadsToTheLoadAndAsksAboutHeldPoints) {
   EXPECT_EQ(r.ui.Letzte().titel, "exper. Daten");
   EXPECT_EQ(r.s.Mess.ExpAnzahl, 5);
   EXPECT_TRUE(r.s.Projekt.Freigaben.ExpDaten);
-  EXPECT_EQ(r.s.Projekt.ProjektVerzeichnis, "/daten");
 
   r.ui.antworten = {ui::Antwort::Nein};
   r.logik->mnuData_LoadProject_Click();
@@ -155,58 +148,52 @@ TEST(ProjektMenue, TheLastSessionResetsTheFitColumnClosesDialogsAndAsksNothing) 
   EXPECT_EQ(r.s.Mess.ExpAnzahl, 4);
   EXPECT_EQ(r.s.Projekt.ProjektDatei, "eigen.QC6"); // the session file doesn't become the project
 
-  r.aufrufe.clear();
   r.batch = "x.DAT";
   r.logik->mnuData_LoadLastSession_Click();
   EXPECT_EQ(r.ui.Letzte().text, KeinBAQ);
 }
 
-TEST(ProjektMenue, OptionsNeedASubstance) {
-  ProjektRahmen r;
-  int gezeigt = 0;
-  r.logik->Befehle.Handler("mnuOptions", [&](int) { ++gezeigt; });
-  r.logik->Start("");
-  EXPECT_FALSE(r.logik->Ausfuehren("mnuOptions"));
-  r.MitStoffUndModell();
-  EXPECT_TRUE(r.logik->Ausfuehren("mnuOptions"));
-  EXPECT_EQ(gezeigt, 1);
-}
-
-class ProjektEnde : public ::testing::Test {
-protected:
-  void SetUp() override {
-    ordner = fs::temp_directory_path() /
-             ("quor_ende_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    fs::remove_all(ordner);
-    fs::create_directories(ordner);
-    r.s.Datenbank.ProgrammVerzeichnis = ordner.string();
-    r.d.ProjektSchreiben = [this](ProjectState& st, const std::string& pfad) {
+// At the end the record log closes, an empty temporary file goes, and the last session is written
+// without a question for its comment when a database of the open kind has its path.
+TEST(ProjektEnde, TheLastSessionIsWrittenOnlyWithADatabaseOfTheOpenKind) {
+  ProgrammOrdner ordner;
+  Rahmen r;
+  int protokoll = 0;
+  const fs::path sitzung = ordner.pfad / "QuorLastSession.QC6";
+  auto starten = [&] {
+    r.s.Datenbank.ProgrammVerzeichnis = ordner.pfad.string();
+    r.d.ProtokollSchliessen = [&] { ++protokoll; };
+    r.d.ProjektSchreiben = [&](ProjectState& st, const std::string& pfad) {
       ProjektSchreiben(st, pfad, r.ui);
     };
     r.Bauen();
     r.logik->Start("");
-  }
-  void TearDown() override { fs::remove_all(ordner); }
+  };
+  starten();
+  std::ofstream(r.s.Projekt.TempDatei).close();
+  EXPECT_TRUE(r.logik->Ausfuehren("mnuData_Exit"));
+  EXPECT_FALSE(r.logik->Beenden()); // the frame's closing after the menu runs nothing twice
+  EXPECT_EQ(protokoll, 1);
+  EXPECT_FALSE(fs::exists(r.s.Projekt.TempDatei));
+  EXPECT_FALSE(fs::exists(sitzung));
 
-  fs::path ordner;
-  Rahmen r;
-};
-
-TEST_F(ProjektEnde, WithADatabaseTheLastSessionIsWrittenWithoutAComment) {
+  starten();
   r.MitStoffUndModell();
-  r.s.Projekt.DateiKommentar = "bleibt";
-  r.s.Projekt.ProjektVerzeichnis = (ordner / "anderswo").string();
-  EXPECT_TRUE(r.logik->Ausfuehren("mnuData_Exit"));
-  std::string bytes;
-  ASSERT_TRUE(LeseDateiBytes((ordner / "QuorLastSession.QC6").string(), bytes));
-  EXPECT_NE(bytes.find("\r\nbleibt\r\nQUOR.Q07\r\n"), std::string::npos);
-  EXPECT_TRUE(r.ui.protokoll.empty()); // no question for the comment
-}
+  r.s.Datenbank.DatenbankTyp = 6; // the path is of the other kind
+  EXPECT_TRUE(r.logik->Beenden());
+  EXPECT_FALSE(fs::exists(sitzung));
 
-TEST_F(ProjektEnde, WithoutADatabaseNothingIsWritten) {
-  EXPECT_TRUE(r.logik->Ausfuehren("mnuData_Exit"));
-  EXPECT_FALSE(fs::exists(ordner / "QuorLastSession.QC6"));
-  EXPECT_TRUE(r.ui.protokoll.empty());
+  starten();
+  r.s.Datenbank.DatenbankTyp = 7;
+  r.s.Projekt.DateiKommentar = "bleibt";
+  r.s.Projekt.ProjektVerzeichnis = (ordner.pfad / "anderswo").string();
+  std::ofstream(r.s.Projekt.TempDatei) << "1;2;3";
+  EXPECT_TRUE(r.logik->Beenden());
+  std::string bytes;
+  ASSERT_TRUE(LeseDateiBytes(sitzung.string(), bytes));
+  EXPECT_NE(bytes.find("\r\nbleibt\r\nQUOR.Q07\r\n"), std::string::npos);
+  EXPECT_TRUE(r.ui.protokoll.empty());            // no question for the comment
+  EXPECT_TRUE(fs::exists(r.s.Projekt.TempDatei)); // not empty: it stays
 }
 
 } // namespace
