@@ -3,20 +3,13 @@
 // dialog.
 #pragma once
 
-#include "core/project_state.h"
-#include "gui_hilfe.h"
-#include "gui/frame/mdi_quor.h"
+#include "dienste/skript_oberflaeche.h"
 #include "gui/calc/rechnung_steuerung.h"
 #include "gui/substance/stoff_wahl_fenster.h"
-#include "dienste/skript_oberflaeche.h"
+#include "gui_hilfe.h"
+#include "zeigt_logik.h"
 
-#include <QLabel>
-#include <QLayout>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <gtest/gtest.h>
 
 #include <memory>
 
@@ -66,8 +59,6 @@ struct RechnungsRahmen {
     p->OK()->click();
     QApplication::processEvents();
   }
-
-  QString Liste() { return Seite()->Liste()->toPlainText(); }
 };
 
 } // namespace quor::ui::test

@@ -1,3 +1,4 @@
+// The main window's registry of menus and buttons, and the printer that writes the reports.
 #include "core/project_state.h"
 #include "dienste/skript_oberflaeche.h"
 #include "gui/basis/qt_drucker.h"
@@ -5,7 +6,6 @@
 #include "gui_hilfe.h"
 
 #include <QFile>
-#include <QMdiArea>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -13,20 +13,6 @@ namespace quor::ui {
 namespace {
 
 using test::App;
-
-TEST(Hauptfenster, CarriesTheProgramTitleAndAnMdiArea) {
-  App();
-  ProjectState s;
-  InitProjectState(s);
-  SkriptOberflaeche ui;
-  mdiQUOR fenster(s, ui);
-  EXPECT_EQ(fenster.windowTitle().toStdString(),
-            "QUOR-6     thermodynamische Zustands- und Prozessberechnungen an Reinstoffsystemen");
-  EXPECT_EQ(fenster.objectName(), "mdiQUOR");
-  ASSERT_NE(fenster.Arbeitsflaeche(), nullptr);
-  fenster.show();
-  EXPECT_FALSE(fenster.grab().isNull());
-}
 
 // The assembled registry: what the menus show is what runs.
 TEST(Hauptfenster, EveryBuiltRowHasItsHandlerAndEveryButtonAnEntry) {
