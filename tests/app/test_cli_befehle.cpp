@@ -1,6 +1,7 @@
 // quor-cli end to end, one run per command: the substance list against the database's source, the
 // constants of info against Peng and Robinson's closed forms, and the volumes of calc and batch
-// against the equation of state written out in the test; and the two older kinds of measured data.
+// against the equation of state written out in the test; and the measured-data reader's older form
+// and another substance's data.
 #include "cli_testhilfe.h"
 
 namespace quor::test {

@@ -60,23 +60,18 @@ TEST(RahmenBefehle, FollowTheFourStatesOfTheFrame) {
   Rahmen r;
   r.logik->Start("");
   BefehlsRegister& b = r.logik->Befehle;
-  b.Registriere(
-      ZeileVon({"mnuCalc", 2, "T, p", "mnuCalcMenue", -1}, 0, BrauchtModell | BrauchtKritischenPunkt));
+  // The data button's target, the editor of the measured data, comes from another subsystem.
   b.Registriere(ZeileVon({"mnuData_BatchEdit", -1, "Editor", "mnuData", -1}, 0, BrauchtStoff));
-  b.Handler("mnuCalc", 2, [](int) {});
   b.Handler("mnuData_BatchEdit", [](int) {});
   b.Handler("mnuModel", [](int) {});
   b.Handler("mnuOptions", [](int) {});
   const Erwartung tabelle[] = {
       {"mnuData_OpenBank", 0, true, true, true, true},
-      {"mnuData_OpenBank", 2, true, true, true, true},
       {"mnuData_Exit", -1, true, true, true, true},
       {"mnuStoffwahl", -1, false, true, true, true},
       {"mnuModel", -1, false, false, true, true},
       {"mnuOptions", -1, false, false, true, true},
-      {"mnuData_BatchEdit", -1, false, false, true, true},
       {"mnuData_ParameterEOS", -1, false, false, false, true},
-      {"mnuCalc", 2, false, false, false, true},
       {"Toolbar1", 32, true, true, true, true},
       {"Toolbar1", 22, false, false, false, false}, // no measured data: the data button stays off
   };

@@ -4,7 +4,7 @@
 #include "gui/calc/ceos_diagnose_fenster.h"
 #include "gui/calc/isotherm_bilder.h"
 #include "gui/calc/superkrit_bild.h"
-#include "rechnung_hilfe.h"
+#include "programm_hilfe.h"
 #include "zeigt_logik.h"
 
 #include <QMdiSubWindow>

@@ -1,6 +1,6 @@
-// Shared by the widget tests of the calculations: the frame with the default database open and
-// methane chosen with its default models, the windows of a calculation, and typing into the value
-// dialog.
+// Shared by the widget tests of the frame: a program with its frame on a program directory, the
+// database opened through the menu; for the calculations methane chosen with its default models, the
+// windows of a calculation, and typing into the value dialog.
 #pragma once
 
 #include "dienste/skript_oberflaeche.h"
@@ -15,22 +15,33 @@
 
 namespace quor::ui::test {
 
-struct RechnungsRahmen {
+struct Programm {
   ProjectState s;
   SkriptOberflaeche ui;
   std::unique_ptr<mdiQUOR> fenster;
 
-  RechnungsRahmen() {
+  explicit Programm(const std::string& verzeichnis = QUOR_PROGRAMM_VERZEICHNIS,
+                    const std::string& kommandozeile = "") {
     App();
-    s.Datenbank.ProgrammVerzeichnis = QUOR_PROGRAMM_VERZEICHNIS;
+    s.Datenbank.ProgrammVerzeichnis = verzeichnis;
     fenster = std::make_unique<mdiQUOR>(s, ui);
-    fenster->Starten("");
+    fenster->Starten(kommandozeile);
     fenster->resize(1280, 1000);
     fenster->show();
-    ui.dateien.push_back(std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/QUOR.Q07");
+  }
+
+  // The .Q07 entry of the data menu, the scripted file dialog answering with the directory's database.
+  StoffWahlFenster* DatenbankOeffnen() {
+    ui.dateien.push_back(s.Datenbank.ProgrammVerzeichnis + "/QUOR.Q07");
     fenster->Befehl("mnuData_OpenBank", 0)->trigger();
+    return fenster->StoffWahl();
+  }
+};
+
+struct RechnungsRahmen : Programm {
+  RechnungsRahmen() {
     // Enter in the list takes its first substance, methane, with Peng/Robinson and GLOBAL.
-    Taste(fenster->StoffWahl()->Liste(), Qt::Key_Return);
+    Taste(DatenbankOeffnen()->Liste(), Qt::Key_Return);
     EXPECT_EQ(s.Stoff.StoffName, "Methan");
     ui.protokoll.clear(); // the file dialog of the database
   }
