@@ -67,16 +67,14 @@ TEST(Koordinaten, ZoomRectangleDraggedInAnyDirectionGivesTheSameRanges) {
   EXPECT_REL(z->X.Max, 10, 1e-12);
   EXPECT_NEAR(z->Y.Min, 0, 1e-12); // the bottom edge
   EXPECT_REL(z->Y.Max, 15, 1e-14);
-}
 
-TEST(Koordinaten, ClickOrThinRectangleIsNoZoom) {
-  const Zeichenflaeche f = Flaeche({0, 100}, {0, 30});
-  EXPECT_FALSE(ZoomRechteck(f, {200, 100}, {200, 100}).has_value());
-  EXPECT_FALSE(ZoomRechteck(f, {200, 100}, {203, 250}).has_value());
-  EXPECT_FALSE(ZoomRechteck(f, {200, 100}, {400, 96}).has_value());
-  // Wide and high enough, but only a sliver of it lies in the plot area.
-  EXPECT_FALSE(ZoomRechteck(f, {0, 100}, {52, 250}).has_value());
-  EXPECT_FALSE(ZoomRechteck(f, {200, 100}, {std::nan(""), 250}).has_value());
+  // A click, a thin rectangle, or one whose part in the plot area is a sliver, is no zoom.
+  const Zeichenflaeche g = Flaeche({0, 100}, {0, 30});
+  for (const auto& [e1, e2] : {std::pair<Punkt2D, Punkt2D>{{200, 100}, {200, 100}},
+                               {{200, 100}, {203, 250}},
+                               {{0, 100}, {52, 250}},
+                               {{200, 100}, {std::nan(""), 250}}})
+    EXPECT_FALSE(ZoomRechteck(g, e1, e2).has_value()) << e2.X;
 }
 
 TEST(Koordinaten, DegenerateRangesAndAreasGiveFiniteNumbers) {
