@@ -1,5 +1,5 @@
 // The batch report: the .LST file of a batch against its golden file, the rules of deviations and
-// means, the derivative pages, the head by kind and concept, the printer's drawing, the file name.
+// means, the derivative pages, the head by kind and concept, the file name.
 #include "calc/bericht.h"
 #include "calc/ergebnis_seite.h"
 #include "dienste/skript_oberflaeche.h"
@@ -146,35 +146,6 @@ TEST(Bericht, HeadNamesModelAndVapourPressureEquationByConcept) {
   b.a.Art = 3;
   b.s.Mess.BatchDateiTitel.clear();
   b.WieGespeichert("bericht_global.LST");
-}
-
-// The printer gets the same report in COURIER 10 with columns at multiples of the width of "X" and
-// superscript labels; without a printer nothing is drawn.
-TEST(Bericht, PrinterReportUsesColumnsOfTheCharacterWidth) {
-  Bericht b;
-  b.a.MitDetails = true;
-  b.k.AnzahlPunkte = 1;
-  b.k.StapelErgebnisse[1] = Ergebnis(1, "V+L", 300, 1012.5f, 20.5f, 495, 40000);
-  ui::SkriptDrucker d;
-  ASSERT_TRUE(DruckeBericht(d, b.s, b.k, b.a));
-  ASSERT_GE(d.protokoll.size(), 3u);
-  EXPECT_EQ(d.protokoll[1], "Schrift COURIER 10");
-  const double x = d.TextBreite("X"); // 6 points for the scripted 10-point font
-  auto gedruckt = [&](const std::string& text) {
-    for (const auto& z : d.protokoll)
-      if (z.rfind("Text ", 0) == 0 && z.size() >= text.size() &&
-          z.compare(z.size() - text.size(), text.size(), text) == 0)
-        return std::stod(z.substr(5));
-    return -1.0;
-  };
-  EXPECT_EQ(gedruckt(" QUOR: Results of Calculation"), 20 * x);
-  EXPECT_EQ(gedruckt("       d2p/dV²: "), 5 * x);
-  EXPECT_EQ(gedruckt(" 1012.5"), 20 * x);
-
-  ui::SkriptDrucker abgebrochen;
-  abgebrochen.verfuegbar = false;
-  EXPECT_FALSE(DruckeBericht(abgebrochen, b.s, b.k, b.a));
-  EXPECT_EQ(abgebrochen.protokoll.size(), 1u);
 }
 
 TEST(Bericht, FileNameGetsExtensionAndDirectoryWhenTypedWithout) {

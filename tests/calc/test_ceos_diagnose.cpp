@@ -59,39 +59,5 @@ TEST(CEOSDiagnose, ThreeRootsCarryTheirStability) {
   EXPECT_EQ(k.Wurzeln[2], "v(3) = 0.04535456 m^3/kg     (stabil, V-Phase)");
 }
 
-// One root: below TKrit it is the phase's stable root, at TKrit and above it gets the supercritical
-// picture without a phase note. Without a cubic model or without a solved state the dialog stays empty.
-TEST(CEOSDiagnose, OneRootAndNothingToShow) {
-  const ProjectState s = Kubisch();
-  LetzterZustand z;
-  z.T = 300;
-  z.pLetzt = 5000;
-  z.V = {0.1, 0, 0};
-  z.AnzahlWurzeln = 1;
-  z.HatL = true;
-  frmCEOSDiagnose unten(s, z);
-  unten.Form_Load();
-  EXPECT_EQ(unten.pctEOS, frmCEOSDiagnose::Bild::EineWurzelUnterkritisch);
-  EXPECT_EQ(unten.Wurzeln, std::vector<std::string>{"v(1) = 0.1 m^3/kmol   (stabil, L-Phase)"});
-
-  z.T = static_cast<float>(s.Stoff.TKrit);
-  z.HatV = true;
-  frmCEOSDiagnose oben(s, z);
-  oben.Form_Load();
-  EXPECT_EQ(oben.pctEOS, frmCEOSDiagnose::Bild::EineWurzelUeberkritisch);
-  EXPECT_EQ(oben.Wurzeln[0], "v(1) = 0.1 m^3/kmol");
-
-  ProjectState virial = Kubisch();
-  virial.Modell.EOSIndex = 14;
-  frmCEOSDiagnose v(virial, z);
-  v.Form_Load();
-  EXPECT_TRUE(v.Wurzeln.empty());
-  EXPECT_EQ(v.pctEOS, frmCEOSDiagnose::Bild::Keins);
-  const LetzterZustand leer;
-  frmCEOSDiagnose ohne(s, leer);
-  ohne.Form_Load();
-  EXPECT_TRUE(ohne.Wurzeln.empty());
-}
-
 } // namespace
 } // namespace quor

@@ -1,13 +1,11 @@
 // The result page: opening, walking over the live points of a batch, the options of the further
-// blocks, the controls offered by kind and mode, and closing.
+// blocks, the controls offered in direct input, and closing.
 #include "calc/ergebnis_seite.h"
 #include "calc_testhilfe.h"
 #include "dienste/skript_oberflaeche.h"
 #include "test_ergebnis_seite_daten.h"
 
 #include <gtest/gtest.h>
-
-#include <tuple>
 
 namespace quor {
 namespace {
@@ -113,31 +111,6 @@ TEST(ErgebnisSeite, OptionsSetTheBlocksAndRecalculate) {
   t.seite.Form_Load(); // opening again resets the options
   EXPECT_EQ(t.seite.Kontext.Abschnitte, 1);
   EXPECT_FALSE(t.seite.Kontext.MitFunktionen);
-}
-
-// Which frames and ticks a kind offers; equilibrium kinds switch the functions on in GLOBAL and lock
-// the three ticks in PARTIAL.
-TEST(ErgebnisSeite, FramesAndTicksByKind) {
-  struct Fall {
-    int16_t art;
-    bool global, ausgabe, protokoll, erweitert, uhs, resPlus, funktionen;
-  };
-  // One kind of each group: a state, an equilibrium in GLOBAL and in PARTIAL, a database function.
-  const std::vector<Fall> faelle{{1, true, true, true, true, true, true, false},
-                                 {4, true, true, true, true, false, true, true},
-                                 {5, false, true, true, true, false, false, false},
-                                 {11, true, false, true, false, false, true, false}};
-  for (const Fall& f : faelle) {
-    Seite t;
-    t.s.RechenArt = f.art;
-    t.s.Modell.RechnungGlobal = f.global;
-    t.seite.Form_Load();
-    const frmQCalcOut& p = t.seite;
-    EXPECT_EQ(std::tie(p.fraResultOutputVisible, p.fraProtokollVisible, p.fraCalcErweitertVisible,
-                       p.chkUHSEnabled, p.ResPlusEnabled, p.Kontext.MitFunktionen),
-              std::tie(f.ausgabe, f.protokoll, f.erweitert, f.uhs, f.resPlus, f.funktionen))
-        << "kind " << f.art;
-  }
 }
 
 // With the real dispatcher (kind 3, methane, Peng/Robinson): the page shows the first point's state;

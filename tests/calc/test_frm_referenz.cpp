@@ -1,11 +1,9 @@
 // The reference-state dialog: what it shows on opening by model and energy unit, the proposal of the
-// reference pressure, its options, and what OK stores.
+// reference pressure and its options.
 #include "calc/frm_referenz.h"
 #include "calc_testhilfe.h"
-#include "core/zahlformat.h"
 #include "dienste/skript_oberflaeche.h"
 #include "engine/referenz.h"
-#include "support/relativ.h"
 
 #include <gtest/gtest.h>
 
@@ -76,37 +74,6 @@ TEST(frmReferenz, OptionsFollowTheFormationDataAndLockTheFields) {
   EXPECT_EQ(std::tie(d.s.Referenz.TRef, d.s.Referenz.pRef), std::tuple(298.15f, 101.325f));
   d.frm.opt_HNull_Click(0);
   EXPECT_EQ(d.frm.T_Enabled, (std::array<bool, 6>{true, true, true, true, true, true}));
-}
-
-// OK reads the fields with either decimal mark, divides h and s by the energy factor, stores a
-// T(u) of 0 as 1e-6 and takes the kind from the option; ESC stores nothing.
-TEST(frmReferenz, OkStoresTheFields) {
-  Dialog d(StoffMitModell(CasWasser, 6));
-  d.s.Einheiten.EnergieMode = 1; // per R
-  d.frm.Form_Load();
-  d.frm.T = {"1,5", "0.25", "310,5", "200", "0", "99,9"};
-  EXPECT_TRUE(d.frm.OK_Click());
-  const ReferenzGruppe& r = d.s.Referenz;
-  EXPECT_REL(r.hRef, 1.5 * RGas, 1e-12);
-  EXPECT_REL(r.sRef, 0.25 * RGas, 1e-12);
-  EXPECT_EQ(std::tie(r.TRef, r.pRef, r.TUmgebung, r.pUmgebung, r.RefArt),
-            std::tuple(310.5f, 200.0f, 1e-6, 99.9, RefBenutzer));
-
-  Dialog e(StoffMitModell(CasWasser, 6));
-  e.s.Stoff.hBildung = -241820;
-  e.s.Stoff.gBildung = -228590;
-  e.frm.Form_Load();
-  e.frm.opt_HNull_Click(1);
-  e.frm.T[4] = "kein Wert"; // a field that is no number keeps its value
-  e.frm.OK_Click();
-  EXPECT_EQ(e.s.Referenz.RefArt, RefKonventionell);
-  EXPECT_EQ(e.s.Referenz.TUmgebung, 298.15);
-
-  Dialog f(StoffMitModell(CasWasser, 6));
-  f.frm.Form_Load();
-  f.frm.T[5] = "1";
-  f.frm.ESC_Click();
-  EXPECT_EQ(f.s.Referenz.pUmgebung, 101.325);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
-// The options dialog: what each control does to the project state on OK, the refusal of reduced
-// values without a critical temperature, the separators with their comma warnings, and nothing
-// taken over without OK.
+// The options dialog: the units, the refusal of reduced values without a critical temperature, the
+// diagram's clearing, the calculation mode and the separators with their comma warnings.
 #include "core/optionen.h"
 #include "dienste/skript_oberflaeche.h"
 #include "support/relativ.h"
@@ -64,35 +63,6 @@ TEST(Optionen, ReducedValuesWithoutCriticalTemperatureAreRefusedAndUnitsStay) {
   const EinheitenGruppe& e = o.s.Einheiten;
   EXPECT_EQ(std::tie(e.VolumenMode, e.TFaktor, e.TVorgabe), std::tuple(0, 1.0f, 0.0f));
   EXPECT_FALSE(o.dlg->chkReduziert);
-}
-
-TEST(Optionen, BoxesModesAndPointCountAreTakenOverOnlyOnOK) {
-  Optionen o;
-  frmQOptions& d = *o.dlg;
-  d.chkUnloadGraph2D = false;
-  d.chkParSpeichern = true;
-  d.chkPartialKurve = true;
-  d.chkSKurveOhneKonnode = true;
-  d.chkCurveTpRestricted = false;
-  d.optKurvenMischen = 1;
-  d.OptCalcMode = 0;
-  d.Slider1_punktdichte = 1500;
-  d.cmbSepXY = 2;
-  const OptionenGruppe& opt = o.s.Optionen;
-  EXPECT_EQ(opt.PunktDichte, 500); // nothing is taken over before OK
-
-  d.cmdOK();
-  EXPECT_EQ(std::tie(opt.UnloadGraph2D, opt.ParSpeichern, opt.PartialKurve, opt.SKurveOhneKonnode,
-                     opt.KurveTpBeschraenkt, o.s.Zusatz.KurvenMischen, o.s.Rechnung.StapelModus),
-            std::tuple(false, true, true, true, false, true, true));
-  EXPECT_EQ(opt.PunktDichte, 1500);
-  EXPECT_EQ(opt.XYTrenner, '\t'); // "Tab" is the tab character
-
-  d.Slider1_punktdichte = 100000; // beyond the slider's end
-  d.cmbSepCSV = 2;
-  d.cmdOK();
-  EXPECT_EQ(opt.PunktDichte, frmQOptions::SliderMax);
-  EXPECT_EQ(opt.CsvTrenner, '\t');
 }
 
 TEST(Optionen, ChangedFactorsClearTheDiagramOnlyWithItsBox) {

@@ -18,15 +18,10 @@ inline ui::ProzessStatus StarteEcht(const ui::ProzessAuftrag& auftrag) {
   return ui::StarteKindProzess(auftrag);
 }
 
-// The parameter program as the build puts it into the program directory.
-inline std::string CubparProgramm() {
-  return std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/cubpar";
-}
-
-// Makes `verzeichnis` a program directory with the built cubpar in it.
+// Makes `verzeichnis` a program directory with the cubpar the build put into the program directory.
 inline void StelleCubparBereit(const std::string& verzeichnis) {
   std::error_code ec;
-  std::filesystem::create_symlink(CubparProgramm(), verzeichnis + "/cubpar", ec);
+  std::filesystem::create_symlink(std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/cubpar", verzeichnis + "/cubpar", ec);
 }
 
 // A user interface whose child processes really run.
@@ -36,10 +31,14 @@ inline ui::SkriptOberflaeche EchteProzesse() {
   return ui;
 }
 
-// Methane with the blocks of the default database; the correlated sets (August, Frost/Kalkwarf with
-// the van der Waals and the Redlich/Kwong term, Thompson's Antoine) computed from Tc = 190.56 K,
-// pc = 4599 kPa, Tb = 111.66 K by the correlations' own formulas.
-inline void SetzeTestMethan(ProjectState& s) {
+// A state with methane, the vapour-pressure equation `tag`, the Varnik/Ji model `EOSIndex` and the
+// program directory `verzeichnis`, before the set-up. Methane has the blocks of the default database;
+// the correlated sets (August, Frost/Kalkwarf with the van der Waals and the Redlich/Kwong term,
+// Thompson's Antoine) are computed from Tc = 190.56 K, pc = 4599 kPa, Tb = 111.66 K by the
+// correlations' own formulas.
+inline ProjectState MethanFuerJi(int16_t EOSIndex, const std::string& tag, const std::string& verzeichnis) {
+  ProjectState s;
+  InitProjectState(s);
   StoffGruppe& st = s.Stoff;
   st.StoffName = "Methan";
   st.CASRN = "74-82-8";
@@ -69,14 +68,6 @@ inline void SetzeTestMethan(ProjectState& s) {
   st.KFW = {12.693039f, -571.2733f, 0, -2.7261584f, 1.4466658f, 2, 0, 0, 0};
   st.KFR = {12.714855f, -572.1787f, 0, -2.7347106f, 20.235577f, 2.5f, 0, 0, 0};
   st.THO = {5.9400643f, 426.65876f, 269.9346f};
-}
-
-// A state with methane, the vapour-pressure equation `tag`, the Varnik/Ji model `EOSIndex` and the
-// program directory `verzeichnis`, before the set-up.
-inline ProjectState MethanFuerJi(int16_t EOSIndex, const std::string& tag, const std::string& verzeichnis) {
-  ProjectState s;
-  InitProjectState(s);
-  SetzeTestMethan(s);
   s.Modell.EOSIndex = EOSIndex;
   s.Modell.VirialFlag = false;
   s.Modell.DampfdruckTag = tag;
