@@ -9,6 +9,7 @@
 #include "gui_hilfe.h"
 #include "zeigt_logik.h"
 
+#include <QComboBox>
 #include <QListWidget>
 
 #include <memory>

@@ -1,34 +1,16 @@
 // The German texts of the frame, the substance choice and the model window fit their widgets at the
 // windows' opening sizes, and the windows fit a screen of 1280 x 800. With QUOR_BILDER_VERZEICHNIS
 // set, the pictures of the three windows are written there (the documentation's screenshots).
-#include "core/project_state.h"
-#include "gui_hilfe.h"
-#include "gui/frame/mdi_quor.h"
-#include "gui/substance/modell_fenster.h"
-#include "gui/substance/stoff_wahl_fenster.h"
-#include "dienste/skript_oberflaeche.h"
+#include "programm_hilfe.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLayout>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QMenu>
-#include <QPixmap>
-#include <QPushButton>
 #include <QStatusBar>
-#include <gtest/gtest.h>
 
 namespace quor::ui {
 namespace {
 
-using test::App;
 using test::Taste;
-using test::Tippen;
 
 void Bild(QWidget* w, const char* name) {
   EXPECT_TRUE(test::Bild(w, name)) << name;
@@ -58,20 +40,15 @@ std::vector<std::string> Abgeschnitten(const QWidget* fenster) {
 }
 
 TEST(FensterLayout, GermanTextsFitTheFrameTheSubstanceChoiceAndTheModels) {
-  App();
-  ProjectState s;
-  s.Datenbank.ProgrammVerzeichnis = QUOR_PROGRAMM_VERZEICHNIS;
-  SkriptOberflaeche ui;
-  ui.dateien.push_back("QUOR.Q07"); // a name alone is taken in the program directory
-  mdiQUOR fenster(s, ui);
-  fenster.Starten("");
-  fenster.show();
-  fenster.Befehl("mnuData_OpenBank", 0)->trigger();
-  StoffWahlFenster* wahl = fenster.StoffWahl();
+  test::Programm a;
+  mdiQUOR& fenster = *a.fenster;
+  fenster.resize(1180, 780); // the size the frame opens with
+  StoffWahlFenster* wahl = a.DatenbankOeffnen();
   ASSERT_NE(wahl, nullptr);
-  wahl->NamensFeld()->lineEdit()->clear();
-  Tippen(wahl->NamensFeld()->lineEdit(), "Kohlendioxid");
-  Taste(wahl->NamensFeld()->lineEdit(), Qt::Key_Return);
+  QLineEdit* name = wahl->NamensFeld()->lineEdit();
+  name->clear();
+  test::Tippen(name, "Kohlendioxid");
+  Taste(name, Qt::Key_Return);
   Auslegen(wahl);
   EXPECT_LE(wahl->width(), 1280);
   EXPECT_LE(wahl->height(), 800);

@@ -4,12 +4,10 @@
 #include "gui/frame/optionen_fenster.h"
 #include "gui/frame/projekt_dialog.h"
 #include "programm_hilfe.h"
-
-#include <QComboBox>
+#include "support/temp_ordner.h"
 
 #include <filesystem>
 #include <fstream>
-#include <unistd.h>
 
 namespace quor::ui {
 namespace {
@@ -24,15 +22,10 @@ class ProjektGUI : public ::testing::Test {
 protected:
   void SetUp() override {
     test::App();
-    ordner = fs::temp_directory_path() / ("quor_gui_" + std::to_string(getpid()) + "_" +
-                                          ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(ordner);
     fs::create_directories(ordner / "projekte");
     for (const char* datei : {"QUOR.Q07", "SYNOM7.TXT"})
       fs::copy_file(fs::path(QUOR_PROGRAMM_VERZEICHNIS) / datei, ordner / datei);
   }
-  void TearDown() override { fs::remove_all(ordner); }
-
   using Programm = test::Programm;
   std::unique_ptr<Programm> Starten(const std::string& kommandozeile) {
     return std::make_unique<Programm>(ordner.string(), kommandozeile);
@@ -68,13 +61,13 @@ protected:
     EXPECT_EQ(b.s.Modell.HLVIndex, a.s.Modell.HLVIndex);
     EXPECT_EQ(b.s.Modell.CpIndex, a.s.Modell.CpIndex);
     EXPECT_EQ(b.s.Modell.KonzeptGlobal, a.s.Modell.KonzeptGlobal);
-    ASSERT_NE(b.fenster->Modelle(), nullptr);
-    EXPECT_TRUE(b.fenster->Modelle()->isVisible());
+    ASSERT_TRUE(b.fenster->Modelle() && b.fenster->Modelle()->isVisible());
     ZeigtLogik(b.fenster->Modelle());
     ZeigtLogik(*b.fenster, b.s);
   }
 
-  fs::path ordner;
+  quor::test::TempOrdner tmp{"quor_gui_"};
+  const fs::path ordner{tmp.Pfad()};
 };
 
 TEST_F(ProjektGUI, ASavedProjectAndTheLastSessionComeBackInFreshPrograms) {
@@ -130,8 +123,7 @@ TEST_F(ProjektGUI, OptionsReachTheStateAndRenameTheCalculationMenu) {
   ASSERT_FALSE(HasFatalFailure());
   p->fenster->Befehl("mnuOptions")->trigger();
   auto* optionen = p->fenster->findChild<OptionenFenster*>("frmQOptions");
-  ASSERT_NE(optionen, nullptr);
-  EXPECT_TRUE(optionen->isVisible());
+  ASSERT_TRUE(optionen && optionen->isVisible());
   EXPECT_TRUE(optionen->Normierung()->isEnabled()); // the reference-state dialog is there
 
   const int16_t molar = p->s.Einheiten.EnergieMode;

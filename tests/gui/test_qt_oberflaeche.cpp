@@ -2,6 +2,7 @@
 // and child processes with their exit code, time-out and kill.
 #include "gui/basis/qt_oberflaeche.h"
 #include "gui_hilfe.h"
+#include "support/temp_ordner.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -11,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <fstream>
 #include <signal.h>
 
 namespace quor::ui {
@@ -75,9 +75,7 @@ TEST(QtOberflaeche, ChildProcessesEndWithTheirCodeOrAreKilledWhenOutOfTime) {
   ProzessStatus st = ui.StarteProzess(a);
   EXPECT_EQ(st.ergebnis, ProzessErgebnis::Beendet);
   EXPECT_EQ(st.exitCode, 3);
-  std::ifstream aus(a.ausgabeDatei);
-  std::string zeile;
-  EXPECT_TRUE(std::getline(aus, zeile) && zeile == "hallo");
+  EXPECT_EQ(quor::test::LeseDatei(a.ausgabeDatei), "hallo\n");
 
   // The child notes its number in its working directory, then would wait far longer than allowed.
   a.argumente = {"-c", "echo $$ > pid; exec sleep 60"};
@@ -85,10 +83,9 @@ TEST(QtOberflaeche, ChildProcessesEndWithTheirCodeOrAreKilledWhenOutOfTime) {
   a.wartenMs = 300;
   st = ui.StarteProzess(a);
   EXPECT_EQ(st.ergebnis, ProzessErgebnis::ZeitUeberschritten);
-  std::ifstream pidDatei(ordner.filePath("pid").toStdString());
-  int pid = 0;
-  ASSERT_TRUE(pidDatei >> pid);
-  EXPECT_EQ(kill(pid, 0), -1); // killed and reaped: no such process any more
+  const std::string pid = quor::test::LeseDatei(ordner.filePath("pid").toStdString());
+  ASSERT_FALSE(pid.empty());
+  EXPECT_EQ(kill(std::stoi(pid), 0), -1); // killed and reaped: no such process any more
   EXPECT_EQ(errno, ESRCH);
 
   a.programm = ordner.filePath("fehlt").toStdString();

@@ -5,7 +5,6 @@
 #include "gui/substance/text_fenster.h"
 #include "programm_hilfe.h"
 
-#include <QComboBox>
 #include <QScrollBar>
 
 namespace quor::ui {
@@ -19,8 +18,7 @@ TEST(RahmenAblauf, GermanNameLeadsThroughSubstanceChoiceToTheModels) {
   mdiQUOR& f = *a.fenster;
   ZeigtLogik(f, a.s);
   StoffWahlFenster* wahl = a.DatenbankOeffnen();
-  ASSERT_NE(wahl, nullptr);
-  ASSERT_TRUE(wahl->isVisible());
+  ASSERT_TRUE(wahl && wahl->isVisible());
   EXPECT_EQ(wahl->Liste()->count(), static_cast<int>(wahl->Logik().List1.size()));
   ZeigtLogik(f, a.s);
 
@@ -37,8 +35,7 @@ TEST(RahmenAblauf, GermanNameLeadsThroughSubstanceChoiceToTheModels) {
   ZeigtLogik(f, a.s);
   EXPECT_TRUE(f.Ampel()->isEnabled()); // the substance's data graded in colour
   ModellFenster* modelle = f.Modelle();
-  ASSERT_NE(modelle, nullptr);
-  EXPECT_TRUE(modelle->isVisible());
+  ASSERT_TRUE(modelle && modelle->isVisible());
   ZeigtLogik(modelle);
   EXPECT_TRUE(a.ui.Meldungen().empty());
 

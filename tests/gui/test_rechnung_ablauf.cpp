@@ -5,9 +5,7 @@
 #include "gui/calc/isotherm_bilder.h"
 #include "gui/calc/superkrit_bild.h"
 #include "programm_hilfe.h"
-#include "zeigt_logik.h"
 
-#include <QMdiSubWindow>
 #include <QScrollBar>
 
 namespace quor::ui {
@@ -72,8 +70,7 @@ TEST(RechnungAblauf, FromTheMenuThroughTheValueDialogToThePageAndItsCompanions) 
 
   seite->Knopf("cmdCEOSDiagnose")->click();
   CEOSDiagnoseFenster* diagnose = a.R().Diagnose();
-  ASSERT_NE(diagnose, nullptr);
-  EXPECT_TRUE(diagnose->isVisible());
+  ASSERT_TRUE(diagnose && diagnose->isVisible());
   EXPECT_EQ(diagnose->Bild()->Fall(), diagnose->Logik().pctEOS);
   QApplication::processEvents();
   EXPECT_TRUE(test::Bild(diagnose, "diagnose.png"));
@@ -93,8 +90,7 @@ TEST(RechnungAblauf, EquilibriumThroughTheConceptDialogByGlobalAndPartial) {
   RechnungsRahmen a;
   ASSERT_TRUE(a.Menue("mnuCalc", 5));
   CalcInFenster* calcIn = a.R().CalcIn();
-  ASSERT_NE(calcIn, nullptr);
-  EXPECT_TRUE(calcIn->isVisible());
+  ASSERT_TRUE(calcIn && calcIn->isVisible());
   EXPECT_EQ(a.Seite(), nullptr); // the page waits for the concept
   ZeigtLogik(calcIn);
   calcIn->OK()->click();
@@ -121,9 +117,7 @@ TEST(RechnungAblauf, EquilibriumThroughTheConceptDialogByGlobalAndPartial) {
   calcIn->OK()->click();
   QApplication::processEvents();
   EXPECT_FALSE(a.s.Modell.RechnungGlobal);
-  ASSERT_NE(a.Seite(), nullptr);
-  a.Eingeben({"150"});
-  ZeigtLogik(a.Seite());
+  EXPECT_NE(a.Seite(), nullptr);
 }
 
 } // namespace

@@ -21,7 +21,8 @@ inline ui::ProzessStatus StarteEcht(const ui::ProzessAuftrag& auftrag) {
 // Makes `verzeichnis` a program directory with the cubpar the build put into the program directory.
 inline void StelleCubparBereit(const std::string& verzeichnis) {
   std::error_code ec;
-  std::filesystem::create_symlink(std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/cubpar", verzeichnis + "/cubpar", ec);
+  std::filesystem::create_symlink(std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/cubpar", verzeichnis + "/cubpar",
+                                  ec);
 }
 
 // A user interface whose child processes really run.
