@@ -183,12 +183,6 @@ TEST(frmCalcIn, OkGoesOnWithTheCalculation) {
   diagramm.frm.Form_Load();
   diagramm.frm.OK_Click();
   EXPECT_EQ(diagramm.fenster.schritte, (Schritte{"frmParinput zu", "Diagramm"}));
-
-  Dialog abbruch(6, 4);
-  abbruch.frm.Form_Load();
-  abbruch.frm.Cancel_Click();
-  EXPECT_TRUE(abbruch.frm.Geschlossen);
-  EXPECT_EQ(abbruch.fenster.schritte, Schritte{});
 }
 
 } // namespace

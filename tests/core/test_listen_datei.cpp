@@ -193,15 +193,6 @@ TEST(ListenDatei, SurvivesNulHugeLinesAndRandomBytes) {
   }
 }
 
-TEST(ListenDatei, Windows1252AndUtf8FilesBothRead) {
-  ListenLeser cp("\"M\xFCller\",\xB0"
-                 "C");
-  EXPECT_EQ(LiesText(cp), "Müller");
-  EXPECT_EQ(LiesText(cp), "°C");
-  ListenLeser u("\xEF\xBB\xBF\"M\xC3\xBCller\"");
-  EXPECT_EQ(LiesText(u), "Müller");
-}
-
 // Whole files: every byte value comes back, a second write replaces; missing directories and
 // directories as files fail.
 TEST(DateiBytes, WholeFileRoundTripAndFailures) {
