@@ -1,26 +1,16 @@
-// The main window's registry of menus and buttons, and the printer that writes the reports.
-#include "core/project_state.h"
-#include "dienste/skript_oberflaeche.h"
-#include "gui/basis/qt_drucker.h"
-#include "gui/frame/mdi_quor.h"
-#include "gui_hilfe.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
+// The main window's registry of menus and buttons, and its database service: choosing a database
+// tells success from a cancelled dialog and a missing file, so that the frame keeps its substance
+// unless a database was opened.
+#include "gui/frame/rahmen_dienste.h"
+#include "programm_hilfe.h"
 
 namespace quor::ui {
 namespace {
 
-using test::App;
-
 // The assembled registry: what the menus show is what runs.
 TEST(Hauptfenster, EveryBuiltRowHasItsHandlerAndEveryButtonAnEntry) {
-  App();
-  ProjectState s;
-  InitProjectState(s);
-  SkriptOberflaeche ui;
-  mdiQUOR fenster(s, ui);
+  test::Programm a;
+  mdiQUOR& fenster = *a.fenster;
   const BefehlsRegister& r = fenster.Logik().Befehle;
   int gebaut = 0, offen = 0;
   for (const BefehlsZeile& z : r.Zeilen()) {
@@ -43,26 +33,23 @@ TEST(Hauptfenster, EveryBuiltRowHasItsHandlerAndEveryButtonAnEntry) {
   }
 }
 
-TEST(Drucker, WritesTextAndLinesIntoAPdf) {
-  App();
-  QTemporaryDir ordner;
-  ASSERT_TRUE(ordner.isValid());
-  const QString pdf = ordner.filePath("bericht.pdf");
-  QtDrucker drucker(nullptr);
-  drucker.SetzePdfZiel(pdf.toStdString());
-  ASSERT_TRUE(drucker.StartDokument("QUOR: Results of Calculation"));
-  drucker.Schrift("COURIER", 10, false);
-  // A fixed-pitch font: ten characters are ten times as wide as one.
-  EXPECT_NEAR(drucker.TextBreite("XXXXXXXXXX"), 10 * drucker.TextBreite("X"), 0.5);
-  drucker.Position(72, 72);
-  drucker.DruckeText("Substance: Methan");
-  EXPECT_DOUBLE_EQ(drucker.X(), 0);
-  EXPECT_GT(drucker.Y(), 72);
-  drucker.Linie(72, 100, 300, 100);
-  drucker.EndeDokument();
-  QFile datei(pdf);
-  ASSERT_TRUE(datei.open(QIODevice::ReadOnly));
-  EXPECT_TRUE(datei.read(5).startsWith("%PDF"));
+TEST(RahmenDienste, DatabaseChoiceReportsWhetherADatabaseWasOpened) {
+  ProjectState s;
+  InitProjectState(s);
+  s.Datenbank.ProgrammVerzeichnis = QUOR_PROGRAMM_VERZEICHNIS;
+  SkriptOberflaeche ui;
+  EXPECT_FALSE(DatenbankWaehlenUndOeffnen(s, 7, ui)); // the dialog is cancelled
+  EXPECT_FALSE(s.Datenbank.DatenbankGeladen);
+  ui.dateien = {"QUOR.Q07"};
+  EXPECT_TRUE(DatenbankWaehlenUndOeffnen(s, 7, ui));
+  EXPECT_EQ(s.Datenbank.PfadQ07, "QUOR.Q07");
+
+  // A missing file: the open database and its path stay, with the message.
+  ui.dateien = {"FEHLT.Q07"};
+  EXPECT_FALSE(DatenbankWaehlenUndOeffnen(s, 7, ui));
+  EXPECT_EQ(s.Datenbank.PfadQ07, "QUOR.Q07");
+  EXPECT_TRUE(s.Datenbank.DatenbankGeladen);
+  EXPECT_EQ(ui.Meldungen().size(), 1u);
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 namespace quor::ui {
 namespace {
@@ -55,12 +56,12 @@ protected:
 
   // The state a project carries, side by side, and the windows showing it.
   static void GleicherZustand(const Programm& a, Programm& b) {
-    EXPECT_EQ(b.s.Stoff.StoffName, a.s.Stoff.StoffName);
-    EXPECT_EQ(b.s.Modell.EOSIndex, a.s.Modell.EOSIndex);
-    EXPECT_EQ(b.s.Modell.DampfdruckIndex, a.s.Modell.DampfdruckIndex);
-    EXPECT_EQ(b.s.Modell.HLVIndex, a.s.Modell.HLVIndex);
-    EXPECT_EQ(b.s.Modell.CpIndex, a.s.Modell.CpIndex);
-    EXPECT_EQ(b.s.Modell.KonzeptGlobal, a.s.Modell.KonzeptGlobal);
+    auto zustand = [](const Programm& p) {
+      const auto& m = p.s.Modell;
+      return std::tuple(p.s.Stoff.StoffName, m.EOSIndex, m.DampfdruckIndex, m.HLVIndex, m.CpIndex,
+                        m.KonzeptGlobal);
+    };
+    EXPECT_EQ(zustand(b), zustand(a));
     ASSERT_TRUE(b.fenster->Modelle() && b.fenster->Modelle()->isVisible());
     ZeigtLogik(b.fenster->Modelle());
     ZeigtLogik(*b.fenster, b.s);

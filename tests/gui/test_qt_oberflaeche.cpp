@@ -1,13 +1,20 @@
 // The Qt side of the services: the default button of a question, the extension a saved name gets,
-// and child processes with their exit code, time-out and kill.
+// child processes with their exit code, time-out and kill, the printer that writes the reports, and
+// the help window over the program directory's help pages.
+#include "gui/basis/hilfe_fenster.h"
+#include "gui/basis/qt_drucker.h"
 #include "gui/basis/qt_oberflaeche.h"
 #include "gui_hilfe.h"
 #include "support/temp_ordner.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -90,6 +97,68 @@ TEST(QtOberflaeche, ChildProcessesEndWithTheirCodeOrAreKilledWhenOutOfTime) {
 
   a.programm = ordner.filePath("fehlt").toStdString();
   EXPECT_EQ(ui.StarteProzess(a).ergebnis, ProzessErgebnis::NichtGestartet);
+}
+
+TEST(Drucker, WritesTextAndLinesIntoAPdf) {
+  App();
+  QTemporaryDir ordner;
+  ASSERT_TRUE(ordner.isValid());
+  const QString pdf = ordner.filePath("bericht.pdf");
+  QtDrucker drucker(nullptr);
+  drucker.SetzePdfZiel(pdf.toStdString());
+  ASSERT_TRUE(drucker.StartDokument("QUOR: Results of Calculation"));
+  drucker.Schrift("COURIER", 10, false);
+  // A fixed-pitch font: ten characters are ten times as wide as one.
+  EXPECT_NEAR(drucker.TextBreite("XXXXXXXXXX"), 10 * drucker.TextBreite("X"), 0.5);
+  drucker.Position(72, 72);
+  drucker.DruckeText("Substance: Methan");
+  EXPECT_DOUBLE_EQ(drucker.X(), 0);
+  EXPECT_GT(drucker.Y(), 72);
+  drucker.Linie(72, 100, 300, 100);
+  drucker.EndeDokument();
+  QFile datei(pdf);
+  ASSERT_TRUE(datei.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(datei.read(5).startsWith("%PDF"));
+}
+
+const QString HilfeOrdner = QString(QUOR_PROGRAMM_VERZEICHNIS) + "/help";
+
+TEST(Hilfe, TopicsOpenTheirPagesInTheProgramsOwnWindow) {
+  App();
+  QtOberflaeche ui(nullptr, HilfeOrdner.toStdString());
+  EXPECT_EQ(ui.Hilfefenster(), nullptr);
+  const std::pair<int, const char*> themen[] = {
+      {11223, "Erste Schritte"}, {45333, "Rechenübung"}, {11124, "Tipps"}, {0, "Inhalt"}};
+  for (const auto& [thema, titel] : themen) {
+    ui.Hilfe(thema);
+    HilfeFenster* fenster = ui.Hilfefenster();
+    ASSERT_NE(fenster, nullptr);
+    EXPECT_TRUE(fenster->isVisible());
+    EXPECT_EQ(fenster->Browser()->documentTitle(), QString::fromUtf8(titel)) << thema;
+    EXPECT_EQ(fenster->windowTitle(), "QUOR-6  Hilfe: " + QString::fromUtf8(titel));
+  }
+  EXPECT_TRUE(ui.Hilfefenster()->Browser()->isBackwardAvailable()); // one window, with its history
+  ui.Hilfe(11223);
+  EXPECT_TRUE(test::Bild(ui.Hilfefenster(), "hilfe.png"));
+  delete ui.Hilfefenster();
+}
+
+TEST(Hilfe, EveryLinkBetweenThePagesFindsItsPage) {
+  const QStringList seiten = QDir(HilfeOrdner).entryList({"*.html"});
+  ASSERT_GE(seiten.size(), 4);
+  const QRegularExpression verweis("href=\"([^\"#:]+)\"");
+  int verweise = 0;
+  for (const QString& seite : seiten) {
+    QFile datei(HilfeOrdner + "/" + seite);
+    ASSERT_TRUE(datei.open(QIODevice::ReadOnly)) << seite.toStdString();
+    const QString text = QString::fromUtf8(datei.readAll());
+    for (auto it = verweis.globalMatch(text); it.hasNext(); ++verweise) {
+      const QString ziel = it.next().captured(1);
+      EXPECT_TRUE(QFile::exists(HilfeOrdner + "/" + ziel))
+          << seite.toStdString() << " -> " << ziel.toStdString();
+    }
+  }
+  EXPECT_GE(verweise, 9);
 }
 
 } // namespace
