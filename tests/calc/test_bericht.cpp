@@ -44,8 +44,9 @@ struct Bericht {
 };
 
 // The batch of five points with the third deleted, every live point calculated, deviations, means
-// and derivative pages; the file is Windows-1252 with CR LF. The golden file was checked column by
-// column against the report's layout before it was first written.
+// (exact hits and values missing on either side left out) and derivative pages; the file is
+// Windows-1252 with CR LF. The golden file was checked column by column against the report's layout
+// before it was first written.
 TEST(Bericht, BatchReportFileMatchesGoldenFile) {
   TempOrdner tmp;
   ProjectState s = StapelZustand(tmp.Pfad());
@@ -90,24 +91,6 @@ TEST(Bericht, DeviationsFromFiveHundredPercentAreFlagged) {
   EXPECT_EQ(std::count_if(z2.begin(), z2.end(),
                           [](const std::string& l) { return l.find("(Abw.>500 %!)") != l.npos; }),
             3);
-}
-
-// A value missing on either side gives no difference or deviation in its column and does not count
-// in the column's mean; a calculation that hits the measured value exactly does not count either.
-TEST(Bericht, MissingValuesAndExactHitsDoNotCountInTheMean) {
-  Bericht b;
-  b.k.AnzahlPunkte = 2;
-  b.s.Mess.ExpDaten[2].HLV = 0;
-  b.k.StapelErgebnisse[1] = Ergebnis(1, "V+L", 300, 1000, 20, 500, 34500); // delta(LV)h 30000 -> 34500: +15 %
-  b.k.StapelErgebnisse[2] = Ergebnis(1, "V+L", 320, 1500, 2, 480, 9000);   // no measured delta(LV)h
-  const auto z = b.Text();
-  // Point 1's difference of delta(LV)h as an integer at column 60 (the blank before it is at 59).
-  EXPECT_EQ(ZeileMit(z, " 4500").find(" 4500"), 59u);
-  // Point 2's calculated delta(LV)h is shown, but nothing follows in its column.
-  EXPECT_EQ(ZeileMit(z, "V+L  320").find("9000"), 60u);
-  // Means: T, p, rho(V), rho(L) hit exactly (blanks); delta(LV)h 15 % over one point, not 7.5 %.
-  EXPECT_EQ(ZeileMit(z, "15%").find("15%"), 60u);
-  EXPECT_EQ(ZeileMit(z, "7.5%"), "");
 }
 
 // The derivative pages (golden file): liquid values at column 26, vapour values at 52 by the letters

@@ -64,12 +64,10 @@ TEST(Protokoll, RecordFileOfABatchMatchesGoldenFile) {
   p.Oeffnen();
   EXPECT_EQ(p.seite.lblProtText2, "24140301.CSV");
   p.DreiAufnehmen();
-  EXPECT_EQ(p.seite.Protokoll.ProtokollAnzahl, 3);
   EXPECT_TRUE(p.seite.cmdOpenNewEnabled);
   p.seite.cmdOpenNew_Click();
 
   const std::string datei = LeseDatei(p.tmp.Datei("24140301.CSV"));
-  ASSERT_FALSE(datei.empty());
   VergleicheMitGolden("24140301.CSV", datei); // without alpha(V), which cancels to 0
 
   std::string mitTabs = datei;
