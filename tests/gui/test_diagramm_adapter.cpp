@@ -17,8 +17,6 @@
 namespace quor::ui {
 namespace {
 
-using test::App;
-
 // Pixels of the picture in the colour of the curve or surface: mostly red with little green.
 int Pixel(const QImage& bild, int rot, int blau) {
   int n = 0;
@@ -52,7 +50,7 @@ Flaeche3D Sattel() {
 // application is made, since the 3D chart cannot draw on the offscreen one.
 TEST(DiagrammAdapter, SurfaceReachesTheThreeDimensionalChart) {
   if (!QCoreApplication::instance() && std::getenv("DISPLAY")) setenv("QT_QPA_PLATFORM", "xcb", 1);
-  App();
+  test::App();
   Diagramm3DFlaeche w;
   w.resize(480, 360);
   ASSERT_TRUE(w.Zeige(Sattel()));
@@ -88,7 +86,7 @@ Diagramm2D Parabel() {
 }
 
 TEST(DiagrammAdapter, TwoDimensionalPictureReachesThePlot) {
-  App();
+  test::App();
   Diagramm2DFlaeche w;
   w.resize(640, 480);
   w.Zeige(Parabel());

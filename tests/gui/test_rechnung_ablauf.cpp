@@ -168,7 +168,6 @@ TEST(RechnungFenster, BatchPageWalksThePointsAndWritesTheReport) {
   EXPECT_EQ(a.R().Parinput(), nullptr);
   ErgebnisFenster* seite = a.Seite();
   ASSERT_NE(seite, nullptr);
-  ZeigtLogik(seite);
   seite->Knopf("cmdVor")->click();
   EXPECT_EQ(seite->Logik().AktuellerPunkt, 2);
   ZeigtLogik(seite);
