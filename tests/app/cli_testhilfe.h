@@ -1,51 +1,27 @@
 // Shared by the end-to-end tests of quor-cli: running the built executable with its output and exit
-// code captured, a strict reader of its JSON output, a scratch folder per test, and the Peng/Robinson
+// code captured, a strict reader of its JSON output, and the Peng/Robinson
 // equation written out for checks made independently of the program.
 #pragma once
 
 #include "dienste/kind_prozess.h"
+#include "support/relativ.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <random>
 #include <regex>
-#include <sstream>
 #include <string>
 #include <tuple>
-#include <unistd.h>
 #include <vector>
 
 namespace quor::test {
 
-namespace fs = std::filesystem;
-
 inline std::string Testdatei(const std::string& name) {
   return std::string(QUOR_TESTDATEN) + "/cli/" + name;
 }
-
-inline std::string LeseDatei(const fs::path& pfad) {
-  std::ifstream ein(pfad, std::ios::binary);
-  std::stringstream text;
-  text << ein.rdbuf();
-  return text.str();
-}
-
-// A folder of its own, removed at the end of the test.
-struct Arbeitsordner {
-  fs::path pfad = fs::temp_directory_path() / ("quor_cli_test_" + std::to_string(getpid()) + "_" +
-                                               std::to_string(std::random_device{}()));
-  Arbeitsordner() { fs::create_directories(pfad); }
-  ~Arbeitsordner() {
-    std::error_code fehler;
-    fs::remove_all(pfad, fehler);
-  }
-  std::string operator/(const std::string& name) const { return (pfad / name).string(); }
-};
 
 struct Ergebnis {
   int code = -1;      // exit code; -1 when the program did not end by itself
@@ -56,13 +32,13 @@ struct Ergebnis {
 // Runs quor-cli with `argumente` in `verzeichnis` (a scratch folder when empty), through the
 // program's own child-process launcher.
 inline Ergebnis Starte(const std::vector<std::string>& argumente, const std::string& verzeichnis = "") {
-  Arbeitsordner puffer;
+  TempOrdner puffer("quor_cli_test_");
   ui::ProzessAuftrag auftrag;
   auftrag.programm = QUOR_CLI;
   auftrag.argumente = argumente;
-  auftrag.arbeitsVerzeichnis = verzeichnis.empty() ? puffer.pfad.string() : verzeichnis;
-  auftrag.ausgabeDatei = puffer / "stdout";
-  auftrag.fehlerDatei = puffer / "stderr";
+  auftrag.arbeitsVerzeichnis = verzeichnis.empty() ? puffer.Pfad() : verzeichnis;
+  auftrag.ausgabeDatei = puffer.Datei("stdout");
+  auftrag.fehlerDatei = puffer.Datei("stderr");
   auftrag.wartenMs = 120000;
   const ui::ProzessStatus status = ui::StarteKindProzess(auftrag);
   Ergebnis e;
@@ -204,13 +180,6 @@ inline Json StarteJson(std::vector<std::string> argumente, int code = 0) {
   const Ergebnis e = Starte(argumente);
   EXPECT_EQ(e.code, code) << e.fehler;
   return LeseJson(e.aus);
-}
-
-// Relative comparison with the tolerance written at each assertion.
-inline ::testing::AssertionResult NaheRel(double ist, double soll, double tol) {
-  if (std::fabs(ist - soll) <= tol * std::fabs(soll)) return ::testing::AssertionSuccess();
-  return ::testing::AssertionFailure()
-         << ist << " differs from " << soll << " by more than " << tol * 100 << " %";
 }
 
 constexpr double R = 8.31451; // kJ/(kmol K)

@@ -41,13 +41,13 @@ TEST(CliBefehle, InfoNenntDieKonstantenVonPengUndRobinson) {
   EXPECT_EQ(pc, 22064);
   EXPECT_EQ(info["EOSName"].T(), "CEOS Peng / Robinson");
   EXPECT_EQ(info["aForm"].Z(), 2);
-  EXPECT_TRUE(NaheRel(info["a0"].Z(), 0.45724 * R * R * Tc * Tc / pc, 1e-4));
-  EXPECT_TRUE(NaheRel(info["b0"].Z(), 0.07780 * R * Tc / pc, 1e-4));
-  EXPECT_TRUE(NaheRel(info["aExp"].Z(), 0.37464 + 1.54226 * w - 0.26992 * w * w, 1e-4));
+  EXPECT_REL(info["a0"].Z(), 0.45724 * R * R * Tc * Tc / pc, 1e-4);
+  EXPECT_REL(info["b0"].Z(), 0.07780 * R * Tc / pc, 1e-4);
+  EXPECT_REL(info["aExp"].Z(), 0.37464 + 1.54226 * w - 0.26992 * w * w, 1e-4);
   const double b = info["b0"].Z();
-  EXPECT_TRUE(NaheRel(info["c0"].Z(), b * (1 - std::sqrt(2.0)), 1e-9));
-  EXPECT_TRUE(NaheRel(info["d0"].Z(), b * (1 + std::sqrt(2.0)), 1e-9));
-  EXPECT_TRUE(NaheRel(info["vKritEOS"].Z(), 0.3074 * R * Tc / pc, 1e-3));
+  EXPECT_REL(info["c0"].Z(), b * (1 - std::sqrt(2.0)), 1e-9);
+  EXPECT_REL(info["d0"].Z(), b * (1 + std::sqrt(2.0)), 1e-9);
+  EXPECT_REL(info["vKritEOS"].Z(), 0.3074 * R * Tc / pc, 1e-3);
   EXPECT_TRUE(info["messages"].liste.empty());
 }
 
@@ -63,7 +63,7 @@ TEST(CliBefehle, CalcFindetFluessigkeitUndDampfAlsWurzelnDerGleichung) {
   EXPECT_FALSE(dampf["HatL"].B());
   const double vV = dampf["Ergebnis"]["v(V)"].Z();
   EXPECT_TRUE(IstWurzel(info, 500, 100, vV));
-  EXPECT_TRUE(NaheRel(100 * vV / (R * 500), 1, 0.02)) << "a dilute vapour is nearly ideal";
+  EXPECT_REL(100 * vV / (R * 500), 1, 0.02) << "a dilute vapour is nearly ideal";
 
   // The text form shows the page as the window does, with the line ends of the terminal.
   const Ergebnis text = Starte({"--substance", "Wasser", "calc", "3", "--T", "300", "--p", "100"});
@@ -78,10 +78,10 @@ TEST(CliBefehle, CalcFindetFluessigkeitUndDampfAlsWurzelnDerGleichung) {
 // 0.46) the liquid volume misses the root by 3.4e-5 of itself, so there it is held to 1e-4.
 TEST(CliBefehle, BatchRechnetJedenLebendenPunktUndSchreibtListeUndProtokoll) {
   const Json info = StarteJson({"--substance", "Wasser", "info"});
-  Arbeitsordner ordner;
+  TempOrdner ordner;
   const Ergebnis e = Starte({"--json", "--substance", "Wasser", "batch", "4", "--data",
                              Testdatei("wasser.BAQ"), "--lst", "aus", "--csv", "protokoll.csv"},
-                            ordner.pfad.string());
+                            ordner.Pfad());
   ASSERT_EQ(e.code, 0) << e.fehler;
   const Json r = LeseJson(e.aus);
   ASSERT_EQ(r.liste.size(), 4u);
@@ -97,7 +97,7 @@ TEST(CliBefehle, BatchRechnetJedenLebendenPunktUndSchreibtListeUndProtokoll) {
   }
   // A list name without a dot gets ".LST"; both files land in the working folder, in CR LF lines.
   for (const char* datei : {"aus.LST", "protokoll.csv"}) {
-    const std::string text = LeseDatei(ordner / datei);
+    const std::string text = LeseDatei(ordner.Datei(datei));
     ASSERT_GT(text.size(), 2u) << datei;
     EXPECT_EQ(text.substr(text.size() - 2), "\r\n") << datei;
   }
