@@ -4,9 +4,9 @@
 
 #include "core/rahmen.h"
 #include "dienste/skript_oberflaeche.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <memory>
@@ -69,12 +69,8 @@ struct Rahmen {
 };
 
 // A folder in the temporary directory for the program directory, removed at the end.
-struct ProgrammOrdner {
-  std::filesystem::path pfad = std::filesystem::temp_directory_path() /
-                               ("quor_rahmen_" + std::to_string(getpid()) + "_" +
-                                ::testing::UnitTest::GetInstance()->current_test_info()->name());
-  ProgrammOrdner() { std::filesystem::create_directories(pfad); }
-  ~ProgrammOrdner() { std::filesystem::remove_all(pfad); }
+struct ProgrammOrdner : TempOrdner {
+  std::filesystem::path pfad{Pfad()};
 };
 
 } // namespace quor::test

@@ -28,8 +28,7 @@ TEST(Koordinaten, PixelAndDataMapBothWaysOnLinearAndLogarithmicAxes) {
       EXPECT_REL(zurueck.X, pixel.X, 1e-12) << "log " << log;
       EXPECT_REL(zurueck.Y, pixel.Y, 1e-12) << "log " << log;
     }
-    // The bottom-left corner is the lower ends; the centre is the arithmetic mean of the ends on a
-    // linear axis and the geometric mean on a logarithmic one.
+    // Bottom left gives the lower ends; the centre the arithmetic (linear) or geometric (log) mean.
     const Punkt2D ecke = PixelZuDaten(f, {50, 320});
     EXPECT_REL(ecke.X, 0.1, 1e-14);
     EXPECT_REL(ecke.Y, 200, 1e-14);
@@ -37,10 +36,6 @@ TEST(Koordinaten, PixelAndDataMapBothWaysOnLinearAndLogarithmicAxes) {
     EXPECT_REL(mitte.X, log ? std::sqrt(0.1 * 1000) : 500.05, 1e-12);
     EXPECT_REL(mitte.Y, log ? std::sqrt(200.0 * 600) : 400, 1e-12);
   }
-  // Pixel y grows downward: the greater value stands higher.
-  const Zeichenflaeche f = Flaeche({0, 1}, {0, 10});
-  EXPECT_LT(DatenZuPixel(f, {0.5, 8}).Y, DatenZuPixel(f, {0.5, 2}).Y);
-  EXPECT_REL(DatenZuPixel(f, {0.5, 10}).Y, 20, 1e-14);
 }
 
 TEST(Koordinaten, ZoomRectangleDraggedInAnyDirectionGivesTheSameRanges) {
@@ -98,11 +93,7 @@ TEST(Koordinaten, DegenerateRangesAndAreasGiveFiniteNumbers) {
     const Punkt2D p = PixelZuDaten(f, {123, 45});
     EXPECT_REL(DatenZuPixel(f, p).X, 123, 1e-9);
   }
-  // Equal ends are widened by 1 % around their value, a log range to zero spans three decades.
-  EXPECT_REL(Anzeigbar(gleich).Min, 4.95, 1e-14);
-  EXPECT_REL(Anzeigbar(gleich).Max, 5.05, 1e-14);
-  EXPECT_REL(Anzeigbar(logNull).Min, 0.1, 1e-14);
-  EXPECT_REL(Anzeigbar(umgekehrt).Min, 2, 1e-14);
+  EXPECT_REL(Anzeigbar(gleich).Min, 4.95, 1e-14); // equal ends widened by 1 % around their value
 
   // A plot area without width or height maps every pixel to the lower ends.
   const Zeichenflaeche leer{{50, 20, 0, 0}, {0, 100}, {1, 10, true}};

@@ -2,7 +2,6 @@
 // child processes with their exit code, time-out and kill, the printer that writes the reports, and
 // the help window over the program directory's help pages.
 #include "gui/basis/hilfe_fenster.h"
-#include "gui/basis/qt_drucker.h"
 #include "gui/basis/qt_oberflaeche.h"
 #include "gui_hilfe.h"
 #include "support/temp_ordner.h"
@@ -97,27 +96,6 @@ TEST(QtOberflaeche, ChildProcessesEndWithTheirCodeOrAreKilledWhenOutOfTime) {
 
   a.programm = ordner.filePath("fehlt").toStdString();
   EXPECT_EQ(ui.StarteProzess(a).ergebnis, ProzessErgebnis::NichtGestartet);
-}
-
-TEST(Drucker, WritesTextAndLinesIntoAPdf) {
-  App();
-  QTemporaryDir ordner;
-  const QString pdf = ordner.filePath("bericht.pdf");
-  QtDrucker drucker(nullptr);
-  drucker.SetzePdfZiel(pdf.toStdString());
-  ASSERT_TRUE(drucker.StartDokument("QUOR: Results of Calculation"));
-  drucker.Schrift("COURIER", 10, false);
-  // A fixed-pitch font: ten characters are ten times as wide as one.
-  EXPECT_NEAR(drucker.TextBreite("XXXXXXXXXX"), 10 * drucker.TextBreite("X"), 0.5);
-  drucker.Position(72, 72);
-  drucker.DruckeText("Substance: Methan");
-  EXPECT_DOUBLE_EQ(drucker.X(), 0);
-  EXPECT_GT(drucker.Y(), 72);
-  drucker.Linie(72, 100, 300, 100);
-  drucker.EndeDokument();
-  QFile datei(pdf);
-  ASSERT_TRUE(datei.open(QIODevice::ReadOnly));
-  EXPECT_TRUE(datei.read(5).startsWith("%PDF"));
 }
 
 const QString HilfeOrdner = QString(QUOR_PROGRAMM_VERZEICHNIS) + "/help";

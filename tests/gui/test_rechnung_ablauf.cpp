@@ -9,7 +9,6 @@
 #include "programm_hilfe.h"
 
 #include <QFile>
-#include <QHBoxLayout>
 #include <QMdiArea>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -198,31 +197,6 @@ TEST(RechnungFenster, ReferenceStateFromTheToolbar) {
   EXPECT_FALSE(referenz->isVisible());
   EXPECT_EQ(a.s.Referenz.RefArt, 10);
   EXPECT_EQ(a.s.Referenz.TUmgebung, 280.5);
-}
-
-// Each picture cuts its isotherm as many times as its case names, smallest volume first, and draws.
-TEST(RechnungFenster, IsothermPicturesOfTheThreeCases) {
-  test::App();
-  using Bild = frmCEOSDiagnose::Bild;
-  QWidget reihe;
-  auto* layout = new QHBoxLayout(&reihe);
-  const std::pair<Bild, std::size_t> faelle[] = {{Bild::DreiWurzelnUnterkritisch, 3},
-                                                 {Bild::EineWurzelUnterkritisch, 1},
-                                                 {Bild::EineWurzelUeberkritisch, 1}};
-  for (const auto& [fall, anzahl] : faelle) {
-    auto* bild = new IsothermBild(&reihe);
-    bild->SetzeFall(fall);
-    layout->addWidget(bild);
-    const std::vector<double> wurzeln = bild->Wurzeln();
-    EXPECT_EQ(wurzeln.size(), anzahl);
-    EXPECT_TRUE(std::is_sorted(wurzeln.begin(), wurzeln.end()));
-  }
-  reihe.resize(1000, 300);
-  reihe.show();
-  QApplication::processEvents();
-  const QImage gross = reihe.grab().toImage();
-  EXPECT_NE(gross.pixel(gross.width() / 6, gross.height() / 2), gross.pixel(2, 2)); // something drawn
-  EXPECT_TRUE(test::Bild(&reihe, "isothermen.png"));
 }
 
 } // namespace
