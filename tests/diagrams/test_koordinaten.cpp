@@ -93,7 +93,6 @@ TEST(Koordinaten, DegenerateRangesAndAreasGiveFiniteNumbers) {
     const Punkt2D p = PixelZuDaten(f, {123, 45});
     EXPECT_REL(DatenZuPixel(f, p).X, 123, 1e-9);
   }
-  EXPECT_REL(Anzeigbar(gleich).Min, 4.95, 1e-14); // equal ends widened by 1 % around their value
 
   // A plot area without width or height maps every pixel to the lower ends.
   const Zeichenflaeche leer{{50, 20, 0, 0}, {0, 100}, {1, 10, true}};
