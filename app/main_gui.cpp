@@ -1,6 +1,7 @@
 // The QUOR-6 program with its main frame.
 #include "core/programm_verzeichnis.h"
 #include "core/project_state.h"
+#include "gui/basis/deutsch.h"
 #include "gui/basis/qt_oberflaeche.h"
 #include "gui/frame/mdi_quor.h"
 
@@ -13,6 +14,7 @@ int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
   QApplication::setApplicationName("QUOR");
   QApplication::setOrganizationName("QUOR");
+  quor::ui::DeutscheStandardTexte(app); // file dialogs and standard buttons in German
 
   const std::string benutzer = QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation))
                                    .filePath("QUOR")

@@ -1,6 +1,7 @@
 // The Qt side of the services: the default button of a question, the extension a saved name gets,
 // child processes with their exit code, time-out and kill, the printer that writes the reports, and
 // the help window over the program directory's help pages.
+#include "gui/basis/deutsch.h"
 #include "gui/basis/hilfe_fenster.h"
 #include "gui/basis/qt_oberflaeche.h"
 #include "gui_hilfe.h"
@@ -32,6 +33,17 @@ template <typename Dialog, typename Schritt> void BeimOeffnen(Schritt schritt) {
     ASSERT_NE(dialog, nullptr);
     schritt(dialog);
   });
+}
+
+// The toolkit's own dialogs speak German: a file dialog's labels and the standard buttons.
+TEST(QtOberflaeche, StandardDialogsAndButtonsAreGerman) {
+  App();
+  ASSERT_TRUE(DeutscheStandardTexte(App()));
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
+  QFileDialog dialog;
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  EXPECT_EQ(dialog.labelText(QFileDialog::LookIn), "Suchen in:");
+  EXPECT_EQ(dialog.labelText(QFileDialog::Reject), "Abbrechen");
 }
 
 TEST(QtOberflaeche, EnterPressesTheQuestionsDefaultButton) {
