@@ -138,7 +138,7 @@ bool ListenLeser::LeseInt16(int16_t& x) {
   return true;
 }
 
-bool ListenLeser::LeseBool(bool& b) {
+bool ListenLeser::LeseBool(bool& b, bool nurMinusEins) {
   std::string text;
   if (!LeseZahlFeld(text)) return false;
   if (GleichOhneGross(text, "#TRUE#") || GleichOhneGross(text, "#FALSE#")) {
@@ -146,7 +146,7 @@ bool ListenLeser::LeseBool(bool& b) {
     return true;
   }
   ZahlErgebnis erg = LeseZahl(text);
-  if (erg.ok) b = erg.wert != 0;
+  if (erg.ok) b = nurMinusEins ? erg.wert == -1 : erg.wert != 0;
   return erg.ok;
 }
 

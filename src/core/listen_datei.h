@@ -17,11 +17,12 @@ class ListenLeser {
 public:
   explicit ListenLeser(std::string_view dateiBytes);
 
-  bool LeseText(std::string& s);  // "..." (commas kept; unterminated: up to the end) or a trimmed field
-  bool LeseDouble(double& x);     // an empty field reads as 0; false for a non-number
-  bool LeseFloat(float& x);       // as LeseDouble; false outside the range of float
-  bool LeseInt16(int16_t& x);     // rounded half to even; false outside the range of int16
-  bool LeseBool(bool& b);         // a number (non-zero is true) or #TRUE# / #FALSE#
+  bool LeseText(std::string& s); // "..." (commas kept; unterminated: up to the end) or a trimmed field
+  bool LeseDouble(double& x);    // an empty field reads as 0; false for a non-number
+  bool LeseFloat(float& x);      // as LeseDouble; false outside the range of float
+  bool LeseInt16(int16_t& x);    // rounded half to even; false outside the range of int16
+  // A number (non-zero is true; with `nurMinusEins` only -1 is) or #TRUE# / #FALSE#.
+  bool LeseBool(bool& b, bool nurMinusEins = false);
   bool LeseZeile(std::string& s); // the rest of the current line as it stands, without the line end
   bool AmEnde() const;            // nothing but blanks and line ends remain
   std::size_t Zeile() const;      // 1-based line of the value read last (of the read position before)

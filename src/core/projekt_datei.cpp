@@ -42,7 +42,7 @@ template <typename T> bool Wert(ListenLeser& leser, LeseFehler& fehler, T& ziel)
   else if constexpr (std::is_same_v<T, int16_t>)
     ok = leser.LeseInt16(wert);
   else if constexpr (std::is_same_v<T, bool>)
-    ok = leser.LeseBool(wert);
+    ok = leser.LeseBool(wert, true); // a project's booleans are true when they read -1
   else
     ok = leser.LeseText(wert);
   if (!ok) return Gebrochen(leser, fehler, TypGrund);

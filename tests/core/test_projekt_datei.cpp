@@ -132,11 +132,11 @@ TEST(ProjektDatei, BooleansAreMinusOneOrZeroAndAnEmptyCommentIsMarked) {
 }
 
 TEST(ProjektDatei, SettingsAreReadValueByValueWhateverTheLineBreaks) {
-  // An older file: every setting on a line of its own, booleans in both spellings, padded numbers.
+  // An older file: every setting on a line of its own, booleans as words and numbers, padded numbers.
   std::string text = "12-24-1999\r\n<>\r\nC:\\QUOR\\QUOR.Q06\r\n\r\n 0 \r\n7732-18-5   \r\n";
-  for (const char* wert : {"0",  "0", "0", "1",     "1",       "3", "#TRUE#", "250",  "\",\"",  "4",
-                           "-1", "1", "1", "0.375", "#FALSE#", "2", "10.5",   "0.25", "298.15", "101.325",
-                           "0",  "0", "0", "1",     "0",       "0", "0",      "0"})
+  for (const char* wert :
+       {"0", "0", "0",    "1",    "1",      "3",       "#TRUE#", "250", "\",\"", "4", "-1", "1", "1", "0.375",
+        "1", "2", "10.5", "0.25", "298.15", "101.325", "0",      "0",   "0",     "1", "0",  "0", "0", "0"})
     text += std::string(wert) + "\r\n";
   const Gelesen g(text);
   ASSERT_TRUE(g.ok) << g.fehler.Grund << " " << g.fehler.Zeile;
@@ -147,7 +147,7 @@ TEST(ProjektDatei, SettingsAreReadValueByValueWhateverTheLineBreaks) {
   EXPECT_EQ(s.Optionen.CsvTrenner, ',');
   EXPECT_EQ(s.Modell.DampfdruckTag, "WAG");
   EXPECT_EQ(s.Modell.EOSIndex, 0);      // "none" comes back as the ideal gas
-  EXPECT_FALSE(s.Modell.KonzeptGlobal); // #FALSE#
+  EXPECT_FALSE(s.Modell.KonzeptGlobal); // 1: only -1 is true
   EXPECT_EQ(s.Referenz.hRef, 10.5);
 }
 
