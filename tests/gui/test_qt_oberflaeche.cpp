@@ -39,7 +39,6 @@ template <typename Dialog, typename Schritt> void BeimOeffnen(Schritt schritt) {
 TEST(QtOberflaeche, StandardDialogsAndButtonsAreGerman) {
   App();
   ASSERT_TRUE(DeutscheStandardTexte(App()));
-  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
   QFileDialog dialog;
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   EXPECT_EQ(dialog.labelText(QFileDialog::LookIn), "Suchen in:");

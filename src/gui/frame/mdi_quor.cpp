@@ -64,7 +64,7 @@ RahmenDienste mdiQUOR::Dienste() {
     ZeigeTextFenster(frmQTextEdit(titel, text), this);
   };
   d.ProtokollSchliessen = [this] { rechnung_->SeiteSchliessen(); };
-  ProjektFensterDienste(d, *this, state_, ui_);
+  ProjektFensterDienste(d, *this, ui_);
   return d;
 }
 

@@ -40,7 +40,7 @@ void ProjektDiensteOhneFenster(RahmenDienste& d, Oberflaeche& ui) {
   d.ProjektSpeichernUnter = [&ui](ProjectState& s) { ProjektSpeichernUnter(s, ui); };
 }
 
-void ProjektFensterDienste(RahmenDienste& d, mdiQUOR& rahmen, ProjectState& s, Oberflaeche& ui) {
+void ProjektFensterDienste(RahmenDienste& d, mdiQUOR& rahmen, Oberflaeche& ui) {
   ProjektDiensteOhneFenster(d, ui);
   // An open substance choice shows the project's database.
   d.ProjektLaden = [laden = d.ProjektLaden, &rahmen](ProjectState& st, const std::string& pfad,

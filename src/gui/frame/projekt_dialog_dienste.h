@@ -12,7 +12,7 @@ class mdiQUOR;
 
 void ProjektDiensteOhneFenster(RahmenDienste& d, Oberflaeche& ui);
 
-void ProjektFensterDienste(RahmenDienste& d, mdiQUOR& rahmen, ProjectState& s, Oberflaeche& ui);
+void ProjektFensterDienste(RahmenDienste& d, mdiQUOR& rahmen, Oberflaeche& ui);
 
 // The options dialog over the frame; its changes of the calculation menu's texts go to the registry.
 void OptionenZeigen(mdiQUOR& rahmen, ProjectState& s, Oberflaeche& ui);
