@@ -103,11 +103,7 @@ int16_t CalcArt(int index) {
 
 // The database function behind an entry is there (one limit suffices).
 bool FunktionDa(const StoffGruppe& st, const std::string& name, int index) {
-  if (name == "mnuCalc_sub_sub_database") {
-    const TGrenzen* grenzen[] = {&st.FrostKalkwarfGrenzen, &st.WagnerGrenzen, &st.AntoineNdGrenzen,
-                                 &st.AntoineHdGrenzen};
-    return index < 0 || index > 3 || grenzen[index]->Vorhanden();
-  }
+  if (name == "mnuCalc_sub_sub_database") return DampfdruckFunktionDa(st, index);
   switch (DatenbankArt(index)) {
   case art::DbRhoL:
     return st.RhoLGrenzen.Vorhanden();
@@ -158,6 +154,12 @@ bool MenueVonArt(int16_t art, std::string& name, int& index) {
     return true;
   }
   return false;
+}
+
+bool DampfdruckFunktionDa(const StoffGruppe& st, int index) {
+  const TGrenzen* grenzen[] = {&st.FrostKalkwarfGrenzen, &st.WagnerGrenzen, &st.AntoineNdGrenzen,
+                               &st.AntoineHdGrenzen};
+  return index < 0 || index > 3 || grenzen[index]->Vorhanden();
 }
 
 std::string VirialEintragText(const ProjectState& s) {

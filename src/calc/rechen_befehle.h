@@ -18,6 +18,10 @@ int16_t ArtVonMenue(const std::string& name, int index);
 // The entry that starts kind `art`; false for a kind of no entry.
 bool MenueVonArt(int16_t art, std::string& name, int& index);
 
+// The substance holds the limits of the vapour-pressure equation of a database submenu's entry
+// (0 Frost/Kalkwarf, 1 Wagner, 2 and 3 Antoine); other entries count as there.
+bool DampfdruckFunktionDa(const StoffGruppe& st, int index);
+
 // Text of the entry for the virial coefficients, by the chosen model.
 std::string VirialEintragText(const ProjectState& s);
 

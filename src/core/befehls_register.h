@@ -108,6 +108,7 @@ public:
   std::vector<const BefehlsZeile*> Kinder(const std::string& eltern, int elternIndex = -1) const;
   const std::vector<BefehlsZeile>& Zeilen() const { return zeilen_; }
 
+  // A submenu has no handler of its own; it opens whenever its needs are met.
   bool Gebaut(const std::string& name, int index = -1) const;
   // Everything the row needs is there (whether it is built or not).
   bool BedarfErfuellt(const ProjectState& s, const std::string& name, int index = -1) const;

@@ -119,7 +119,6 @@ void RahmenLogik::BefehleRegistrieren() {
 
 void RahmenLogik::HandlerSetzen() {
   BefehlsRegister& r = Befehle;
-  r.Handler("mnuData", [](int) {});
   r.Handler("mnuData_OpenBank", 0, [this](int i) { mnuData_OpenBank_Click(i); });
   r.Handler("mnuData_OpenBank", 2, [this](int i) { mnuData_OpenBank_Click(i); });
   r.Handler("mnuProjectStatus", [this](int) { mnuProjectStatus_Click(); });
@@ -131,8 +130,6 @@ void RahmenLogik::HandlerSetzen() {
   r.Handler("mnuShowApp_path", [this](int) { mnuShowApp_path_Click(); });
   r.Handler("mnuData_Exit", [this](int) { Beenden(); });
   r.Handler("mnuTavik1W", [this](int) { mnuTavik1W_Click(); });
-  r.Handler("mnuWindow", [](int) {});
-  r.Handler("mnuHilfe", [](int) {});
   r.Handler("mnuHilfe_Inhalt", [this](int) { ui_.Hilfe(HilfeInhalt); });
   r.Handler("mnuHilfe_Erstnutzer", [this](int) { ui_.Hilfe(HilfeErstnutzer); });
   r.Handler("mnuHilfe_RechenUebung", [this](int) { ui_.Hilfe(HilfeRechenUebung); });

@@ -1,5 +1,6 @@
 #include "diagrams/diagramm_befehle.h"
 
+#include "calc/rechen_befehle.h"
 #include "diagrams/diagramm3d_art.h"
 #include "dienste/oberflaeche.h"
 #include "engine/eos_zeilen.h"
@@ -145,20 +146,7 @@ bool Kubisch(const ProjectState& s) {
 // and the heat capacities that refuse with their own message, count as there).
 bool FunktionDa(const ProjectState& s, const std::string& name, int index) {
   const StoffGruppe& st = s.Stoff;
-  if (name == "mnuGraf_sub_sub_database") {
-    switch (index) {
-    case 0:
-      return st.FrostKalkwarfGrenzen.Vorhanden();
-    case 1:
-      return st.WagnerGrenzen.Vorhanden();
-    case 2:
-      return st.AntoineNdGrenzen.Vorhanden();
-    case 3:
-      return st.AntoineHdGrenzen.Vorhanden();
-    default:
-      return true;
-    }
-  }
+  if (name == "mnuGraf_sub_sub_database") return DampfdruckFunktionDa(st, index);
   switch (index) {
   case 0:
   case 2:

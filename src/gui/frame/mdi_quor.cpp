@@ -89,8 +89,6 @@ void mdiQUOR::BefehleRegistrieren() {
   r.Handler("mnuWindow_Kaskade", [this](int) { mdi_->cascadeSubWindows(); });
   r.Handler("mnuWindow_Nebeneinander", [this](int) { mdi_->tileSubWindows(); });
   r.Handler("mnuData_Exit", [this](int) { close(); }); // the closing ends the session
-  for (const char* menue : {"mnu2D", "mnuCalcMenue", "mnuCalc_sub_database"})
-    r.Handler(menue, [](int) {});
 }
 
 void mdiQUOR::BaueMenues() {
