@@ -52,13 +52,13 @@ void BefehlsRegister::Registriere(BefehlsZeile zeile) {
       return;
     }
   }
+  if (!zeile.name.empty()) stelle_[zeile.Schluessel()] = zeilen_.size();
   zeilen_.push_back(std::move(zeile));
 }
 
 BefehlsZeile* BefehlsRegister::Zeile(const std::string& name, int index) {
-  for (BefehlsZeile& z : zeilen_)
-    if (!z.name.empty() && z.name == name && z.index == index) return &z;
-  return nullptr;
+  const auto it = stelle_.find(BefehlsSchluessel(name, index));
+  return it == stelle_.end() ? nullptr : &zeilen_[it->second];
 }
 
 const BefehlsZeile* BefehlsRegister::Finde(const std::string& name, int index) const {

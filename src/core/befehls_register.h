@@ -8,6 +8,7 @@
 #include "core/project_state.h"
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -123,6 +124,7 @@ private:
   BefehlsZeile* Zeile(const std::string& name, int index);
 
   std::vector<BefehlsZeile> zeilen_;
+  std::map<std::string, std::size_t> stelle_; // named rows by key: the frame asks for each entry often
 };
 
 } // namespace quor
