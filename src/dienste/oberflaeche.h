@@ -41,6 +41,9 @@ public:
   virtual void Linie(double x1, double y1, double x2, double y2) = 0;
   virtual void NeueSeite() = 0;
   virtual void EndeDokument() = 0;
+  // The printable area of a page, in points; 0 before the document starts.
+  virtual double SeitenBreite() const = 0;
+  virtual double SeitenHoehe() const = 0;
 };
 
 struct ProzessAuftrag {

@@ -31,8 +31,11 @@ public:
   void Linie(double x1, double y1, double x2, double y2) override;
   void NeueSeite() override;
   void EndeDokument() override;
+  double SeitenBreite() const override { return seitenBreite; }
+  double SeitenHoehe() const override { return seitenHoehe; }
 
   bool verfuegbar = true; // false: StartDokument fails as with a cancelled print dialog
+  double seitenBreite = 510, seitenHoehe = 757; // A4 with margins of 15 mm
   std::vector<std::string> protokoll;
   std::vector<std::string> texte; // the printed texts only, in order
 

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sstream>
 #include <string>
 
 namespace quor {
@@ -128,6 +129,43 @@ TEST(Bericht, HeadNamesModelAndVapourPressureEquationByConcept) {
   b.a.Art = 3;
   b.s.Mess.BatchDateiTitel.clear();
   b.WieGespeichert("bericht_global.LST");
+}
+
+// The printer gets the lines in order, page after page, each inside the printable area; on a narrow
+// page the list is set below 10 points so that its last column stays on the paper.
+TEST(Bericht, PrinterReportFillsPagesInOrderInsideThePrintableArea) {
+  Bericht b;
+  b.a.MitDetails = true;
+  b.k.AnzahlPunkte = 2;
+  b.k.StapelErgebnisse[1] = Ergebnis(1, " L ", 300, 1000, 20, 500, 30000);
+  b.k.StapelErgebnisse[2] = Ergebnis(2, "V+L", 320, 1500, 2, 480, 5000);
+  ui::SkriptDrucker d;
+  d.seitenHoehe = 300;
+  d.seitenBreite = 400;
+  ASSERT_TRUE(DruckeBericht(d, b.s, b.k, b.a));
+  double groesse = 0;
+  int seite = 0;
+  std::pair<int, double> vorher{0, -1};
+  for (const std::string& zeile : d.protokoll) {
+    std::istringstream in(zeile);
+    std::string art;
+    in >> art;
+    if (art == "Schrift") in >> art >> groesse;
+    if (art == "NeueSeite") ++seite;
+    if (art != "Text") continue;
+    double x = 0, y = 0;
+    std::string text;
+    in >> x >> y;
+    std::getline(in >> std::ws, text);
+    EXPECT_LE(y + 1.2 * groesse, d.seitenHoehe) << text;
+    EXPECT_LE(x + 0.6 * groesse * static_cast<double>(text.size()), d.seitenBreite) << text;
+    EXPECT_GE(std::make_pair(seite, y), vorher) << text; // top to bottom, page after page
+    vorher = {seite, y};
+  }
+  EXPECT_GE(seite, 2);
+  EXPECT_GT(groesse, 7);
+  EXPECT_LT(groesse, 10);
+  EXPECT_EQ(d.texte.at(1), "QUOR: Results of Calculation");
 }
 
 TEST(Bericht, FileNameGetsExtensionAndDirectoryWhenTypedWithout) {

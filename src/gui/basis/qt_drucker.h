@@ -5,6 +5,7 @@
 #include "dienste/oberflaeche.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <memory>
 
 class QPainter;
@@ -33,9 +34,13 @@ public:
   void Linie(double x1, double y1, double x2, double y2) override;
   void NeueSeite() override;
   void EndeDokument() override;
+  double SeitenBreite() const override;
+  double SeitenHoehe() const override;
 
 private:
-  double SeitenHoehe() const;
+  double Skala() const;
+  QFontMetricsF Metrik() const;
+  double InPunkten(double geraeteMass) const;
 
   QWidget* eltern_;
   std::string pdfZiel_;
