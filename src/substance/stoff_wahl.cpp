@@ -62,6 +62,7 @@ void frmQStoffWahl::ZeigeDatenbank() {
 
 void frmQStoffWahl::List1_Click(int row) {
   if (row < 0 || row >= static_cast<int>(List1.size())) return;
+  EnterTreffer = 0;
   ZeigeZeile(static_cast<int16_t>(row + 1), true);
   ListeHatFokus = true;
 }
@@ -85,6 +86,7 @@ void frmQStoffWahl::ZeigeZeile(int16_t position, bool nummerZeigen) {
 }
 
 bool frmQStoffWahl::Text1_Change(const std::string& text) {
+  EnterTreffer = 0;
   Text1 = text.substr(0, 4);
   if (Text1.empty()) return false;
   const bool ziffern = std::all_of(Text1.begin(), Text1.end(), [](char c) { return c >= '0' && c <= '9'; });
@@ -112,12 +114,19 @@ bool frmQStoffWahl::Suche(int16_t& position) {
   return !notFound;
 }
 
+void frmQStoffWahl::NameCombo_Change(const std::string& text) {
+  NameCombo = text;
+  EnterTreffer = 0;
+}
+
 StoffWahlAktion frmQStoffWahl::NameCombo_KeyEnter() {
   if (Trim(NameCombo).empty()) return StoffWahlAktion::Nichts;
   int16_t position = 0;
-  if (!Suche(position)) return StoffWahlAktion::Nichts;
-  if (position == StoffIndexNeu) return StoffOK_Click();
-  ZeigeZeile(position, true);
+  const bool gefunden = Suche(position);
+  const bool zweites = gefunden && position == StoffIndexNeu && position == EnterTreffer;
+  EnterTreffer = gefunden ? position : int16_t{0};
+  if (zweites) return StoffOK_Click();
+  if (gefunden) ZeigeZeile(position, true);
   return StoffWahlAktion::Nichts;
 }
 

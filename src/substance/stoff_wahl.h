@@ -47,8 +47,10 @@ public:
   // field; a known system number selects its row. Returns true for the beep.
   bool Text1_Change(const std::string& text);
 
-  // Enter in the name field: searches a non-empty text; the second Enter on the same hit acts as
-  // the OK button.
+  // The user typed in the name field or picked one of its remembered texts.
+  void NameCombo_Change(const std::string& text);
+  // Enter in the name field: searches a non-empty text and shows the hit; a second Enter on the same
+  // hit, with nothing typed or clicked between, acts as the OK button.
   StoffWahlAktion NameCombo_KeyEnter();
   // Esc in the name field: the focus goes to the list.
   void NameCombo_KeyEsc() { ListeHatFokus = true; }
@@ -62,6 +64,7 @@ public:
   int ListIndex = -1;             // selected row
   int16_t StoffIndexNeu = 0;      // selected position, from 1
   bool ListeHatFokus = true;
+  int16_t EnterTreffer = 0; // the hit of the last Enter in the name field; 0 after any other action
 
   std::string lblDatenbank;
   std::string lblCAS;

@@ -52,7 +52,19 @@ TEST(RahmenAblauf, GermanNameLeadsThroughSubstanceChoiceToTheModelsAndTheTextsFi
   EXPECT_EQ(wahl->Liste()->count(), static_cast<int>(wahl->Logik().List1.size()));
   ZeigtLogik(f, a.s);
 
+  // An earlier input is not completed into what the user types in the focused field: "methan"
+  // stays methane.
   QLineEdit* name = wahl->NamensFeld()->lineEdit();
+  QFocusEvent fokus(QEvent::FocusIn, Qt::OtherFocusReason);
+  QApplication::sendEvent(name, &fokus);
+  name->clear();
+  test::Tippen(name, "methanol");
+  Taste(name, Qt::Key_Return);
+  name->clear();
+  test::Tippen(name, "methan");
+  EXPECT_EQ(name->text(), "methan");
+  Taste(name, Qt::Key_Return);
+  EXPECT_EQ(wahl->Logik().NameCombo, "Methan");
   name->clear();
   test::Tippen(name, "kohlendioxid");
   Taste(name, Qt::Key_Return); // the first Enter shows the hit

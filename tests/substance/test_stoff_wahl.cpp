@@ -268,6 +268,19 @@ TEST(frmQStoffWahl, EnterOnANameSearchesAndTheSecondEnterGoesOnToTheModels) {
   EXPECT_EQ(d.frm.NameComboListe, (std::vector<std::string>{"Metha", "Äthanol", "Ethanol"}));
 }
 
+// A typed name whose hit is already selected still takes two Enters; typing between starts anew.
+TEST(frmQStoffWahl, AHitAlreadySelectedStillNeedsTheSecondEnter) {
+  Dialog d;
+  const int16_t ethanol = Position(d.s, "Ethanol");
+  d.frm.List1_Click(ethanol - 1);
+  d.frm.NameCombo_Change("ethanol");
+  EXPECT_EQ(d.frm.NameCombo_KeyEnter(), StoffWahlAktion::Nichts);
+  d.frm.NameCombo_Change("Äthanol");
+  EXPECT_EQ(d.frm.NameCombo_KeyEnter(), StoffWahlAktion::Nichts);
+  EXPECT_EQ(d.frm.NameCombo_KeyEnter(), StoffWahlAktion::ModellFenster);
+  EXPECT_EQ(d.s.Datenbank.StoffIndex, ethanol);
+}
+
 TEST(frmQStoffWahl, OKAsksAboutMeasuredDataAndComputesCorrelatedSets) {
   Dialog d;
   d.s.Mess.ExpAnzahl = 2;

@@ -96,9 +96,14 @@ QLayout* StoffWahlFenster::BaueEingabeSpalte() {
   name_->setEditable(true);
   name_->setInsertPolicy(QComboBox::NoInsert);
   name_->setMinimumContentsLength(28);
+  // What the user typed is searched: no inline completion from earlier inputs; those stay in the
+  // field's list, and one is taken only when the user picks it there.
+  name_->setCompleter(nullptr);
   name_->lineEdit()->installEventFilter(this);
   connect(name_->lineEdit(), &QLineEdit::textEdited, this,
-          [this](const QString& text) { logik_.NameCombo = text.toStdString(); });
+          [this](const QString& text) { logik_.NameCombo_Change(text.toStdString()); });
+  connect(name_, &QComboBox::textActivated, this,
+          [this](const QString& text) { logik_.NameCombo_Change(text.toStdString()); });
   auto* nameLabel = new QLabel(QString::fromUtf8(frmQStoffWahl::LabelName), this);
   nameLabel->setBuddy(name_);
   auto* sprache = new QLabel(QString::fromUtf8(frmQStoffWahl::LabelSprache), this);
@@ -192,7 +197,8 @@ void StoffWahlFenster::Zeige() {
 }
 
 void StoffWahlFenster::NameUebernehmen() {
-  logik_.NameCombo = name_->currentText().toStdString();
+  if (name_->currentText().toStdString() != logik_.NameCombo)
+    logik_.NameCombo_Change(name_->currentText().toStdString());
 }
 
 void StoffWahlFenster::NachAktion(StoffWahlAktion aktion) {
