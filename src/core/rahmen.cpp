@@ -3,6 +3,7 @@
 #include "core/datei_io.h"
 #include "core/daten_diagnose.h"
 #include "core/festtext.h"
+#include "core/projekt_datei.h"
 #include "core/projekt_status.h"
 #include "dienste/oberflaeche.h"
 
@@ -89,11 +90,19 @@ bool RahmenLogik::Beenden() {
   return true;
 }
 
+void DatenbankImStatus(ProjectState& s) {
+  const DatenbankGruppe& db = s.Datenbank;
+  const std::string& pfad = db.DatenbankTyp == 6 ? db.PfadQ06 : db.PfadQ07;
+  s.Projekt.StatusLeiste[1] = pfad.empty() ? std::string() : "Datenbank: " + DateiTeil(pfad);
+}
+
 void RahmenLogik::mnuData_OpenBank_Click(int index) {
   if (index != 0 && index != 2) return; // index 1 is the separator
   const int typ = 7 - index / 2;
   if (!d_.DatenbankWaehlen || !d_.DatenbankWaehlen(s_, typ)) return;
-  // A new database: nothing of the former substance is offered any more.
+  // A new database: nothing of the former substance is offered or shown any more.
+  if (d_.StoffFensterSchliessen) d_.StoffFensterSchliessen();
+  DatenbankImStatus(s_);
   ProjektGruppe& p = s_.Projekt;
   p.LetzteSitzung = false;
   MenueFreigaben& f = p.Freigaben;

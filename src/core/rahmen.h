@@ -53,7 +53,13 @@ struct RahmenDienste {
       ProjektDialog;
   std::function<bool(ProjectState&, const std::string& pfad)> BatchDateiLaden; // true when loaded
   std::function<void()> DialogeSchliessen; // every open dialog but the model window
+  // Another database or project is loaded: the windows that show or compute for the former
+  // substance close (the model window is rebuilt by its own service).
+  std::function<void()> StoffFensterSchliessen;
 };
+
+// Panel 1 of the status bar names the open database's file.
+void DatenbankImStatus(ProjectState& s);
 
 // The command line without any double quote, taken out one at a time, and without blanks at its ends.
 std::string KommandozeileBereinigen(std::string zeile);

@@ -46,6 +46,8 @@ bool RahmenLogik::ProjektOeffnen(const std::string& pfad, ProjektWeg weg) {
   std::string batch;
   if (!d_.ProjektLaden || !d_.ProjektLaden(s_, pfad, batch)) return false;
   const std::string voll = PfadIn(s_.Datenbank.ProgrammVerzeichnis, pfad);
+  if (d_.StoffFensterSchliessen) d_.StoffFensterSchliessen();
+  DatenbankImStatus(s_);
   if (weg == ProjektWeg::LetzteSitzung) {
     if (d_.DialogeSchliessen) d_.DialogeSchliessen();
   } else {

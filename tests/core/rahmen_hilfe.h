@@ -29,10 +29,15 @@ struct Rahmen {
     s.Datenbank.ProgrammVerzeichnis = "/quor/programm";
     d.DatenbankWaehlen = [this](ProjectState& st, int typ) {
       aufrufe.push_back("Datenbank " + std::to_string(typ));
-      if (datenbankErfolg) st.Datenbank.DatenbankGeladen = true;
+      if (datenbankErfolg) {
+        st.Datenbank.DatenbankGeladen = true;
+        st.Datenbank.DatenbankTyp = static_cast<int16_t>(typ);
+        (typ == 6 ? st.Datenbank.PfadQ06 : st.Datenbank.PfadQ07) = "/daten/NEU.Q0" + std::to_string(typ);
+      }
       return datenbankErfolg;
     };
     d.ModellFensterZeigen = [this] { aufrufe.push_back("ModellFenster"); };
+    d.StoffFensterSchliessen = [this] { aufrufe.push_back("StoffFenster"); };
     d.TextFensterZeigen = [this](const std::string& titel, const std::string& text) {
       aufrufe.push_back("Text " + titel + "|" + text);
     };

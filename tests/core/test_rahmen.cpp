@@ -39,13 +39,15 @@ TEST(DatenbankOeffnen, MenuIndexGivesTheKindAndAFailedChoiceKeepsTheSubstance) {
   r.MitStoffUndModell();
   r.s.Projekt.LetzteSitzung = true;
   r.logik->mnuData_OpenBank_Click(2);
-  EXPECT_EQ(r.aufrufe, (Aufrufe{"Datenbank 6", "StoffWahl"}));
+  // The windows of the former substance close; the status bar names the new database alone.
+  EXPECT_EQ(r.aufrufe, (Aufrufe{"Datenbank 6", "StoffFenster", "StoffWahl"}));
+  EXPECT_EQ(r.s.Projekt.StatusLeiste[1], "Datenbank: NEU.Q06");
   EXPECT_FALSE(r.s.Projekt.LetzteSitzung);
   EXPECT_EQ(r.logik->Zustand(), RahmenZustand::DatenbankOhneStoff);
   EXPECT_EQ(r.s.Projekt.StatusLeiste[2], "");
   r.aufrufe.clear();
   EXPECT_TRUE(r.logik->Ausfuehren(ToolbarName, 2)); // "neues Projekt" opens a .Q07 database
-  EXPECT_EQ(r.aufrufe, (Aufrufe{"Datenbank 7", "StoffWahl"}));
+  EXPECT_EQ(r.aufrufe, (Aufrufe{"Datenbank 7", "StoffFenster", "StoffWahl"}));
 
   // A cancelled or failed choice leaves the substance and its models as they were.
   r.MitStoffUndModell();

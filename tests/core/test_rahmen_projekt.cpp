@@ -28,6 +28,7 @@ struct ProjektRahmen : Rahmen {
       aufrufe.push_back("ProjektLaden " + pfad);
       fitSpalteBeimLaden = st.Mess.FitSpalte;
       b = batch;
+      st.Datenbank.PfadQ07 = "/daten/QUOR.Q07";
       if (!batch.empty()) st.Mess.ExpAnzahl = 12; // the count the file holds
       return ladenErfolg;
     };
@@ -60,7 +61,8 @@ struct ProjektRahmen : Rahmen {
 TEST(ProjektRahmenStart, AQuotedProjectIsLoadedAndTheModelsFollow) {
   ProjektRahmen r;
   r.logik->Start("\"/projekte/Methan Versuch.QC6\"");
-  EXPECT_EQ(r.aufrufe, (Aufrufe{"ProjektLaden /projekte/Methan Versuch.QC6", "ModellFenster"}));
+  EXPECT_EQ(r.aufrufe, (Aufrufe{"ProjektLaden /projekte/Methan Versuch.QC6", "StoffFenster", "ModellFenster"}));
+  EXPECT_EQ(r.s.Projekt.StatusLeiste[1], "Datenbank: QUOR.Q07");
   EXPECT_TRUE(r.s.Projekt.ProjektGeladenUeberKommando);
   EXPECT_EQ(r.s.Projekt.ProjektVerzeichnis, "/projekte");
   EXPECT_EQ(r.s.Projekt.ProjektDatei, "Methan Versuch.QC6");
@@ -121,7 +123,7 @@ TEST(ProjektMenue, TheOpenDialogLeadsToTheLoadAndAsksAboutHeldPoints) {
   r.ui.antworten = {ui::Antwort::Ja};
   EXPECT_TRUE(r.logik->Ausfuehren(ToolbarName, 6));
   EXPECT_EQ(r.aufrufe,
-            (Aufrufe{"Dialog Projekt laden (*.QC6) *.QC6", "ProjektLaden /daten/b.QC6", "ModellFenster"}));
+            (Aufrufe{"Dialog Projekt laden (*.QC6) *.QC6", "ProjektLaden /daten/b.QC6", "StoffFenster", "ModellFenster"}));
   ASSERT_EQ(r.ui.protokoll.size(), 1u);
   EXPECT_EQ(r.ui.Letzte().text, "Die bereits geladenen exper. Daten beibehalten?");
   EXPECT_EQ(r.ui.Letzte().titel, "exper. Daten");
@@ -142,7 +144,7 @@ TEST(ProjektMenue, TheLastSessionResetsTheFitColumnClosesDialogsAndAsksNothing) 
   r.s.Mess.FitSpalte = 3;
   r.PunkteHalten(4);
   EXPECT_TRUE(r.logik->Ausfuehren(ToolbarName, 4));
-  EXPECT_EQ(r.aufrufe, (Aufrufe{"ProjektLaden QuorLastSession.QC6", "DialogeSchliessen", "ModellFenster"}));
+  EXPECT_EQ(r.aufrufe, (Aufrufe{"ProjektLaden QuorLastSession.QC6", "StoffFenster", "DialogeSchliessen", "ModellFenster"}));
   EXPECT_EQ(r.fitSpalteBeimLaden, 1);
   EXPECT_TRUE(r.ui.protokoll.empty());
   EXPECT_EQ(r.s.Mess.ExpAnzahl, 4);

@@ -153,6 +153,31 @@ TEST(RechnungFenster, TheVesselFromTheToolbarByEitherConcept) {
   EXPECT_NE(a.R().Parinput(), nullptr);
 }
 
+// Another substance closes the page with its value dialog and rebuilds the models; another database
+// hides the models until a substance is chosen. The status bar names what is loaded throughout.
+TEST(RechnungFenster, AnotherSubstanceOrDatabaseLeavesNoWindowOfTheFormerOne) {
+  RechnungsRahmen a;
+  ASSERT_TRUE(a.Menue("mnuCalc", 2));
+  ASSERT_TRUE(a.Seite() && a.R().Parinput());
+  a.fenster->StoffWahlZeigen();
+  QListWidget* liste = a.fenster->StoffWahl()->Liste();
+  liste->setCurrentRow(1);
+  test::Taste(liste, Qt::Key_Return);
+  QApplication::processEvents();
+  EXPECT_NE(a.s.Stoff.StoffName, "Methan");
+  EXPECT_EQ(a.Seite(), nullptr);
+  EXPECT_EQ(a.R().Parinput(), nullptr);
+  ASSERT_TRUE(a.fenster->Modelle()->isVisible());
+  ZeigtLogik(a.fenster->Modelle());
+  EXPECT_EQ(a.fenster->StatusText(2).toStdString(), a.s.Stoff.StoffName);
+  EXPECT_EQ(a.fenster->StatusText(1), "Datenbank: QUOR.Q07");
+
+  a.DatenbankOeffnen()->close();
+  EXPECT_FALSE(a.fenster->Modelle()->isVisible());
+  EXPECT_EQ(a.fenster->StatusText(1), "Datenbank: QUOR.Q07");
+  EXPECT_EQ(a.fenster->StatusText(2), "");
+}
+
 TEST(RechnungFenster, BatchPageWalksThePointsAndWritesTheReport) {
   RechnungsRahmen a;
   QTemporaryDir ordner;

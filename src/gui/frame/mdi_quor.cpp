@@ -64,6 +64,7 @@ RahmenDienste mdiQUOR::Dienste() {
     ZeigeTextFenster(frmQTextEdit(titel, text), this);
   };
   d.ProtokollSchliessen = [this] { rechnung_->SeiteSchliessen(); };
+  d.StoffFensterSchliessen = [this] { StoffFensterSchliessen(); };
   ProjektFensterDienste(d, *this, ui_);
   return d;
 }
@@ -162,7 +163,7 @@ void mdiQUOR::BaueToolbar() {
 }
 
 void mdiQUOR::BaueStatusleiste() {
-  const int dehnung[] = {1, 2, 3, 3};
+  const int dehnung[] = {2, 2, 3, 3};
   for (int i = 1; i <= 4; ++i) {
     auto* panel = new QLabel(this);
     panel->setObjectName(QString("Panel%1").arg(i));
@@ -231,7 +232,10 @@ void mdiQUOR::BefehlAusloesen(const QString& name, int index) {
 void mdiQUOR::StoffWahlZeigen() {
   if (!stoffWahl_) {
     stoffWahl_ = new StoffWahlFenster(state_, ui_, this);
-    connect(stoffWahl_, &StoffWahlFenster::stoffGeladen, this, [this] { ModellFensterZeigen(true); });
+    connect(stoffWahl_, &StoffWahlFenster::stoffGeladen, this, [this] {
+      StoffFensterSchliessen();
+      ModellFensterZeigen(true);
+    });
     connect(stoffWahl_, &QDialog::finished, this, &mdiQUOR::Aktualisieren);
   }
   if (!stoffWahl_->Laden()) return;
@@ -253,6 +257,17 @@ void mdiQUOR::ModellFensterZeigen(bool neuAufbauen) {
   modell_->show();
   mdi_->setActiveSubWindow(modellFenster_);
   Aktualisieren();
+}
+
+// The windows of the former substance: the calculation's page with its companions, the other child
+// windows and the text windows close; the model window waits hidden for its rebuild.
+void mdiQUOR::StoffFensterSchliessen() {
+  rechnung_->SeiteSchliessen();
+  for (QMdiSubWindow* fenster : mdi_->subWindowList())
+    if (fenster != modellFenster_) fenster->close();
+  for (TextFenster* text : findChildren<TextFenster*>())
+    text->close();
+  if (modellFenster_) modellFenster_->hide();
 }
 
 void mdiQUOR::closeEvent(QCloseEvent* ereignis) {

@@ -54,6 +54,8 @@ public:
   void StoffWahlZeigen();
   // Builds the model window for the loaded substance (the first time or on `neuAufbauen`) and shows it.
   void ModellFensterZeigen(bool neuAufbauen);
+  // Another substance, database or project: the windows of the former substance close.
+  void StoffFensterSchliessen();
 
 protected:
   void closeEvent(QCloseEvent* ereignis) override;
