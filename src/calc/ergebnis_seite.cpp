@@ -203,12 +203,18 @@ void frmQCalcOut::chkFuncPrint_Click(bool an) {
 
 void frmQCalcOut::cmdProtokoll_Click() {
   ProtokollAufnehmen(s_, ui_, Protokoll, Kontext.Ergebnis);
+  const int n = Protokoll.ProtokollAnzahl;
+  lblProtHinweis = n == 1 ? "1 Ergebnis protokolliert" : std::to_string(n) + " Ergebnisse protokolliert";
   SetzeFreigaben();
 }
 
 void frmQCalcOut::cmdOpenNew_Click() {
-  ProtokollSchliessen(s_, ui_, Protokoll, Datum);
+  const int n = Protokoll.ProtokollAnzahl;
+  const std::string pfad = ProtokollSchliessen(s_, ui_, Protokoll, Datum);
   lblProtText2 = Protokoll.ProtokollDatei;
+  lblProtHinweis = pfad.empty() ? std::string()
+                                : (n == 1 ? "1 Ergebnis" : std::to_string(n) + " Ergebnisse") +
+                                      " geschrieben nach\r\n" + pfad + "\r\nund in die Zwischenablage kopiert";
   SetzeFreigaben();
 }
 
@@ -252,7 +258,11 @@ void frmQCalcOut::cmdCalc_OK_Click() {
 
 void frmQCalcOut::Form_Unload() {
   if (Entladen) return;
-  if (Protokoll.ProtokollOffen) cmdOpenNew_Click();
+  // The page goes: where the record went is said once more.
+  if (Protokoll.ProtokollOffen) {
+    cmdOpenNew_Click();
+    if (!lblProtHinweis.empty()) ui_.Meldung("Protokoll: " + lblProtHinweis, "Protokoll", ui::Symbol::Information);
+  }
   Entladen = true;
   Sichtbar = false;
   SetzeFreigaben();

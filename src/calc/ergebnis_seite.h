@@ -77,6 +77,7 @@ public:
   std::string cmdCalc_OKCaption;
   std::string cmdCalc_OKToolTip;
   std::string lblProtText2;
+  std::string lblProtHinweis; // how many results are recorded, then where the file was written
   bool cmdVorEnabled = false, cmdRueckEnabled = false;
   bool fraResultOutputVisible = true, fraResultOutputEnabled = false;
   bool fraProtokollVisible = true, fraCalcErweitertVisible = true;

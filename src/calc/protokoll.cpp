@@ -157,11 +157,12 @@ void ProtokollAufnehmen(const ProjectState& s, ui::Oberflaeche& ui, ProtokollZus
   p.ProtokollAnzahl = static_cast<int16_t>(p.ProtokollWerte.size());
 }
 
-void ProtokollSchliessen(const ProjectState& s, ui::Oberflaeche& ui, ProtokollZustand& p,
-                         const std::string& datum) {
+std::string ProtokollSchliessen(const ProjectState& s, ui::Oberflaeche& ui, ProtokollZustand& p,
+                                const std::string& datum) {
   const std::string pfad = ProtokollPfad(s, p.ProtokollDatei);
+  bool geschrieben = false;
   if (p.ProtokollAnzahl > 0 && !p.ProtokollDatei.empty() &&
-      !SchreibeDateiBytes(pfad, Utf8ZuWin1252(ProtokollText(s, p, datum))))
+      !(geschrieben = SchreibeDateiBytes(pfad, Utf8ZuWin1252(ProtokollText(s, p, datum)))))
     ui.Meldung("Die Protokolldatei konnte nicht geschrieben werden:\r\n" + pfad,
                "Fehler bei Protokoll-Ausgabe", ui::Symbol::Kritisch);
   if (!p.ProtokollDatei.empty()) EntferneLeereDatei(pfad);
@@ -176,6 +177,7 @@ void ProtokollSchliessen(const ProjectState& s, ui::Oberflaeche& ui, ProtokollZu
   p.ProtokollOffen = false;
   p.ProtokollAnzahl = 0;
   p.ProtokollWerte.clear();
+  return geschrieben ? pfad : std::string();
 }
 
 } // namespace quor

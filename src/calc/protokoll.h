@@ -50,8 +50,9 @@ void ProtokollAufnehmen(const ProjectState& s, ui::Oberflaeche& ui, ProtokollZus
                         const ErgebnisVektor& e);
 
 // Writes the record file (when results are recorded), puts its text with tabs for the delimiter on
-// the clipboard, and starts a new record under a new name.
-void ProtokollSchliessen(const ProjectState& s, ui::Oberflaeche& ui, ProtokollZustand& p,
+// the clipboard, and starts a new record under a new name. Gives the written file's path, empty when
+// nothing was written.
+std::string ProtokollSchliessen(const ProjectState& s, ui::Oberflaeche& ui, ProtokollZustand& p,
                          const std::string& datum);
 
 } // namespace quor

@@ -65,7 +65,10 @@ TEST(Protokoll, RecordFileOfABatchMatchesGoldenFile) {
   EXPECT_EQ(p.seite.lblProtText2, "24140301.CSV");
   p.DreiAufnehmen();
   EXPECT_TRUE(p.seite.cmdOpenNewEnabled);
+  EXPECT_EQ(p.seite.lblProtHinweis, "3 Ergebnisse protokolliert");
   p.seite.cmdOpenNew_Click();
+  EXPECT_EQ(p.seite.lblProtHinweis, "3 Ergebnisse geschrieben nach\r\n" + p.tmp.Datei("24140301.CSV") +
+                                        "\r\nund in die Zwischenablage kopiert");
 
   const std::string datei = LeseDatei(p.tmp.Datei("24140301.CSV"));
   VergleicheMitGolden("24140301.CSV", datei); // without alpha(V), which cancels to 0
@@ -94,13 +97,17 @@ TEST(Protokoll, CommaDelimiterWithDecimalCommaWarns) {
             "unbedingte Empfehlung: Semikolon (Einstellung unter \"Optionen\")");
 }
 
-// Closing the page closes an open record the same way.
+// Closing the page closes an open record the same way and says where it went.
 TEST(Protokoll, ClosingThePageWritesAnOpenRecord) {
   ProtokollSeite p;
   p.Oeffnen();
   p.seite.cmdProtokoll_Click();
+  EXPECT_EQ(p.seite.lblProtHinweis, "1 Ergebnis protokolliert");
   p.seite.Form_Unload();
   EXPECT_TRUE(DateiExistiert(p.tmp.Datei("24140301.CSV")));
+  ASSERT_EQ(p.ui.Meldungen().size(), 1u);
+  EXPECT_EQ(p.ui.Letzte().text, "Protokoll: 1 Ergebnis geschrieben nach\r\n" + p.tmp.Datei("24140301.CSV") +
+                                    "\r\nund in die Zwischenablage kopiert");
   EXPECT_NE(p.ui.zwischenablage.find("300\t1012.5\t"), std::string::npos);
 }
 

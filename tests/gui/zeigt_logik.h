@@ -80,6 +80,7 @@ inline void ZeigtLogik(ErgebnisFenster* w) {
          {w->ProtText2()->text(), l.lblProtText2},
          {ok->text(), l.cmdCalc_OKCaption},
          {ok->toolTip(), l.cmdCalc_OKToolTip}});
+  EXPECT_EQ(w->ProtHinweis()->text(), ErgebnisFenster::HinweisText(l.lblProtHinweis));
   Sichtbar({{vorgabe, l.fraBatchVorgabeVisible},
             {w->Rahmen("fraCalcErweitert"), l.fraCalcErweitertVisible},
             {ausgabe, l.fraResultOutputVisible},

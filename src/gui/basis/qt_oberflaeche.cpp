@@ -11,8 +11,13 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScreen>
+#include <QSplitter>
+#include <QTreeView>
 
 namespace quor::ui {
 
@@ -89,6 +94,25 @@ void DeutscheKnoepfe(QMessageBox& box) {
   if (auto* b = box.button(QMessageBox::Ok)) b->setText("OK");
 }
 
+// The toolkit's file dialog, wide enough that names, sizes, kinds and dates are read whole; empty when
+// cancelled.
+QString DateiWaehlen(QWidget* eltern, const DateiDialog& d, const QString& start, QFileDialog::AcceptMode art) {
+  QFileDialog dialog(eltern, Q(d.titel), start, Q(ToolkitFilter(d.filter)));
+  dialog.setAcceptMode(art);
+  dialog.setFileMode(art == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  if (auto* liste = dialog.findChild<QTreeView*>("treeView")) {
+    QHeaderView* kopf = liste->header();
+    kopf->setSectionResizeMode(QHeaderView::ResizeToContents);
+    kopf->setSectionResizeMode(0, QHeaderView::Stretch);
+  }
+  if (auto* teiler = dialog.findChild<QSplitter*>("splitter")) teiler->setSizes({170, 730});
+  const QScreen* schirm = eltern ? eltern->screen() : QGuiApplication::primaryScreen();
+  const QSize platz = schirm ? schirm->availableGeometry().size() : QSize(1280, 800);
+  dialog.resize(std::min(900, platz.width() - 40), std::min(560, platz.height() - 80));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return dialog.selectedFiles().constFirst();
+}
+
 } // namespace
 
 QtOberflaeche::QtOberflaeche(QWidget* eltern, std::string hilfeVerzeichnis)
@@ -125,7 +149,7 @@ std::optional<std::string> QtOberflaeche::Eingabe(const std::string& prompt, con
 std::optional<std::string> QtOberflaeche::DateiOeffnen(const DateiDialog& d) {
   QString start = Q(d.startVerzeichnis);
   if (!d.dateiName.empty()) start = QFileInfo(start + "/" + Q(d.dateiName)).filePath();
-  const QString name = QFileDialog::getOpenFileName(eltern_, Q(d.titel), start, Q(ToolkitFilter(d.filter)));
+  const QString name = DateiWaehlen(eltern_, d, start, QFileDialog::AcceptOpen);
   if (name.isEmpty()) return std::nullopt;
   return name.toStdString();
 }
@@ -133,7 +157,7 @@ std::optional<std::string> QtOberflaeche::DateiOeffnen(const DateiDialog& d) {
 std::optional<std::string> QtOberflaeche::DateiSpeichern(const DateiDialog& d) {
   QString start = Q(d.startVerzeichnis);
   if (!d.dateiName.empty()) start = start.isEmpty() ? Q(d.dateiName) : start + "/" + Q(d.dateiName);
-  const QString name = QFileDialog::getSaveFileName(eltern_, Q(d.titel), start, Q(ToolkitFilter(d.filter)));
+  const QString name = DateiWaehlen(eltern_, d, start, QFileDialog::AcceptSave);
   if (name.isEmpty()) return std::nullopt;
   return MitStandardEndung(name.toStdString(), d.standardEndung);
 }

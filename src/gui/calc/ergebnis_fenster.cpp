@@ -196,6 +196,11 @@ QWidget* ErgebnisFenster::BaueOptionen() {
   neu->setToolTip("ACHTUNG: Alter Clipboard-Inhalt wird gelöscht");
   p->addWidget(neu);
   p->addWidget(protText2_);
+  protHinweis_ = NeuesLabel("lblProtHinweis", protokoll_);
+  protHinweis_->setWordWrap(true);
+  protHinweis_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  protHinweis_->setStyleSheet("color: #1a5e1a;");
+  p->addWidget(protHinweis_);
 
   auto* werkzeuge = new QGridLayout;
   werkzeuge->addWidget(NeuerKnopf("cmdCEOSDiagnose", "Diagnose kubische EOS"), 0, 0);
@@ -324,6 +329,8 @@ void ErgebnisFenster::Zeige() {
   funcPrint_->setEnabled(logik_.chkFuncPrintEnabled);
   protokoll_->setVisible(logik_.fraProtokollVisible);
   protText2_->setText(Q(logik_.lblProtText2));
+  protHinweis_->setText(HinweisText(logik_.lblProtHinweis));
+  protHinweis_->setVisible(!logik_.lblProtHinweis.empty());
   Knopf("cmdOpenNew")->setEnabled(logik_.cmdOpenNewEnabled);
   Knopf("cmdCEOSDiagnose")->setEnabled(logik_.cmdCEOSDiagnoseEnabled);
   Knopf("cmdInfoSuperCrit")->setEnabled(logik_.cmdInfoSuperCritEnabled);
@@ -349,6 +356,10 @@ void ErgebnisFenster::closeEvent(QCloseEvent* ereignis) {
   LageMerken();
   logik_.Form_Unload(); // closes an open record and the companions
   ereignis->accept();
+}
+
+QString ErgebnisFenster::HinweisText(const std::string& text) {
+  return QString::fromStdString(text).replace("\r\n", "\n").replace("/", QString("/") + QChar(0x200B));
 }
 
 } // namespace quor::ui

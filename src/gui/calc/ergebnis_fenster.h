@@ -45,6 +45,9 @@ public:
   QPlainTextEdit* Liste() const { return liste_; }
   QLabel* StatusZeile() const { return status_; }
   QLabel* ProtText2() const { return protText2_; }
+  QLabel* ProtHinweis() const { return protHinweis_; }
+  // A record's note as the label shows it: a long path may break after each "/".
+  static QString HinweisText(const std::string& text);
   QGroupBox* Rahmen(const char* name) const;
   QCheckBox* UHS() const { return uhs_; }
   QCheckBox* ResPlus(int i) const { return resPlus_[static_cast<std::size_t>(i)]; }
@@ -89,6 +92,7 @@ private:
   QPlainTextEdit* liste_ = nullptr;
   QLabel* status_ = nullptr;
   QLabel* protText2_ = nullptr;
+  QLabel* protHinweis_ = nullptr;
   QGroupBox* erweitert_ = nullptr;
   QGroupBox* ausgabeRahmen_ = nullptr;
   QGroupBox* protokoll_ = nullptr;

@@ -8,14 +8,25 @@
 #include "gui/calc/referenz_fenster.h"
 #include "gui/calc/superkrit_bild.h"
 
+#include <QGroupBox>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+
+#include <algorithm>
 
 namespace quor::ui {
 
 namespace {
 // The page's first height: room for a text block of about 35 lines on a screen of 1024 rows.
 constexpr int StandardHoehe = 740;
+
+// A window's place inside the work area: no larger than the area and not reaching out of it.
+QRect ImBereich(QRect r, const QSize& bereich) {
+  r.setSize(r.size().boundedTo(bereich));
+  r.moveLeft(std::clamp(r.left(), 0, bereich.width() - r.width()));
+  r.moveTop(std::clamp(r.top(), 0, bereich.height() - r.height()));
+  return r;
+}
 } // namespace
 
 RechnungSteuerung::RechnungSteuerung(ProjectState& s, Oberflaeche& ui, QMdiArea* flaeche, QWidget* rahmen)
@@ -99,10 +110,9 @@ void RechnungSteuerung::SeiteGeladen(bool offen) {
   seitenFenster_->setObjectName("frmQCalcOutFenster");
   seitenFenster_->setWindowIcon(rahmen_->windowIcon());
   const FensterLage& lage = s_.Rechnung.ErgebnisSeite;
-  if (lage.gesetzt)
-    seitenFenster_->setGeometry(lage.x, lage.y, lage.breite, lage.hoehe);
-  else
-    seitenFenster_->resize(seitenFenster_->sizeHint().expandedTo(QSize(0, StandardHoehe)));
+  const QRect gewuenscht = lage.gesetzt ? QRect(lage.x, lage.y, lage.breite, lage.hoehe)
+                                        : QRect(QPoint(0, 0), seitenFenster_->sizeHint().expandedTo(QSize(0, StandardHoehe)));
+  seitenFenster_->setGeometry(ImBereich(gewuenscht, flaeche_->viewport()->size()));
   connect(seite_, &ErgebnisFenster::entladen, this, &RechnungSteuerung::SeiteEntladen);
   connect(seite_, &ErgebnisFenster::diagnoseGewuenscht, this, &RechnungSteuerung::DiagnoseZeigen);
   connect(seite_, &ErgebnisFenster::superKritUmschalten, this, &RechnungSteuerung::SuperKritUmschalten);
@@ -124,8 +134,11 @@ void RechnungSteuerung::ParinputZeigen() {
     parinput_->setAttribute(Qt::WA_DeleteOnClose);
   }
   parinput_->Laden();
-  // Over the page's right upper corner, so that the results stay in sight.
-  const QPoint ecke = rahmen_->mapToGlobal(QPoint(rahmen_->width() - parinput_->width() - 40, 120));
+  // Over the page's output frame, which direct input doesn't use, so that the results and the
+  // further blocks stay in sight; without a page at the frame's right upper corner.
+  const QGroupBox* ausgabe = seite_ ? seite_->Rahmen("fraResultOutput") : nullptr;
+  const QPoint ecke = ausgabe ? ausgabe->mapToGlobal(QPoint(ausgabe->width() - parinput_->width(), 0))
+                              : rahmen_->mapToGlobal(QPoint(rahmen_->width() - parinput_->width() - 40, 120));
   parinput_->move(ecke);
   parinput_->show();
   parinput_->raise();

@@ -19,6 +19,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSet>
 #include <QStatusBar>
 #include <QToolBar>
@@ -51,7 +52,10 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
   BaueMenues();
   BaueToolbar();
   BaueStatusleiste();
-  resize(1180, 780);
+  // The first size leaves room for the window's title bar on a screen of 1280 x 800.
+  const QScreen* schirm = screen();
+  const QSize platz = schirm ? schirm->availableGeometry().size() - QSize(0, 40) : QSize(1180, 780);
+  resize(QSize(1180, 780).boundedTo(platz));
   Aktualisieren();
 }
 
