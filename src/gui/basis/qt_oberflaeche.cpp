@@ -1,21 +1,19 @@
 #include "gui/basis/qt_oberflaeche.h"
 
-#include "dienste/kind_prozess.h"
-
 #include "dienste/datei_filter.h"
+#include "dienste/kind_prozess.h"
 #include "gui/basis/hilfe_fenster.h"
 #include "gui/basis/qt_drucker.h"
+#include "gui/basis/schirm.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QScreen>
 #include <QSplitter>
 #include <QTreeView>
 
@@ -106,8 +104,7 @@ QString DateiWaehlen(QWidget* eltern, const DateiDialog& d, const QString& start
     kopf->setSectionResizeMode(0, QHeaderView::Stretch);
   }
   if (auto* teiler = dialog.findChild<QSplitter*>("splitter")) teiler->setSizes({170, 730});
-  const QScreen* schirm = eltern ? eltern->screen() : QGuiApplication::primaryScreen();
-  const QSize platz = schirm ? schirm->availableGeometry().size() : QSize(1280, 800);
+  const QSize platz = SchirmFlaeche(eltern).size();
   dialog.resize(std::min(900, platz.width() - 40), std::min(560, platz.height() - 80));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return dialog.selectedFiles().constFirst();

@@ -1,5 +1,7 @@
 #include "gui/calc/calc_in_fenster.h"
 
+#include "gui/basis/schirm.h"
+
 #include <QButtonGroup>
 #include <QDialogButtonBox>
 #include <QFontDatabase>
@@ -185,6 +187,7 @@ void CalcInFenster::Zeige() {
   refInput_->setEnabled(logik_.RefInputEnabled);
   vorschlag_->setText(Q(logik_.RefVorschlag));
   adjustSize();
+  if (isVisible()) AufDemSchirmHalten(this); // the PARTIAL part makes it taller
   zeigt_ = false;
 }
 

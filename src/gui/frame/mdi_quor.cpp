@@ -5,6 +5,7 @@
 #include "diagrams/diagramm_befehle.h"
 #include "dienste/oberflaeche.h"
 #include "fitting/daten_befehle.h"
+#include "gui/basis/schirm.h"
 #include "gui/basis/symbole.h"
 #include "gui/calc/rechnung_steuerung.h"
 #include "gui/frame/projekt_dialog_dienste.h"
@@ -19,7 +20,6 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
-#include <QScreen>
 #include <QSet>
 #include <QStatusBar>
 #include <QToolBar>
@@ -53,9 +53,7 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
   BaueToolbar();
   BaueStatusleiste();
   // The first size leaves room for the window's title bar on a screen of 1280 x 800.
-  const QScreen* schirm = screen();
-  const QSize platz = schirm ? schirm->availableGeometry().size() - QSize(0, 40) : QSize(1180, 780);
-  resize(QSize(1180, 780).boundedTo(platz));
+  resize(QSize(1180, 780).boundedTo(SchirmFlaeche(this).size() - QSize(0, 40)));
   Aktualisieren();
 }
 
