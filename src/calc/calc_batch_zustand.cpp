@@ -246,6 +246,8 @@ void Art3(Lauf& l) {
   }
   SchreibeLetzten(l, l.k.HatV ? l.vV : l.vL, l.p, l.k.HatL && l.k.HatV ? 3 : 1, nRoots);
   seite.co1.text = meldung;
+  // On the saturation line the gas is the cubic's vapour root, whichever phase the areas call stable.
+  if (l.k.TpIstGleichgewicht && !l.k.HatV && nRoots == 3) l.vV = s.EOS.VRoots[2];
   if (l.k.TpIstGleichgewicht && l.vV > 1e-6) {
     l.rhoV = st.MolMasse / l.vV;
     l.rhoL = PartialRhoL(l, l.T, l.rhoV);

@@ -50,7 +50,8 @@ TEST(CalcBatchZustand, RegionInSinglePrecision) {
   EXPECT_EQ(r.seite.lblGleich.text, "überkritische Phase (L) = (V) (T > T(cr), p > p(cr))   > > > > >");
 }
 
-// Kind 3 answered as an equilibrium takes Benson's liquid; a virial model shows B and the vapour only.
+// Kind 3 answered as an equilibrium takes the vapour root and Benson's liquid, also where the areas
+// call the liquid stable; a virial model shows B and the vapour only.
 TEST(CalcBatchZustand, Kind3AsEquilibriumAndWithAVirialModel) {
   Rechnung r(StoffMitModell(CasMethan, 6));
   ReferenzpunktMethan(r.s);
@@ -60,6 +61,15 @@ TEST(CalcBatchZustand, Kind3AsEquilibriumAndWithAVirialModel) {
   EXPECT_TRUE(r.k.HatL && r.k.HatV);
   EXPECT_REL(r.Zelle(ZelleVL), r.s.Stoff.MolMasse / BensonMethan(r.s, 150, d.rhoV), 1e-12);
   EXPECT_NE(r.seite.Liste.text.find("            nach BENSON-Methode:\r\n"), std::string::npos);
+
+  // Just above the EOS's vapour pressure the liquid is stable, yet the three roots give the vapour.
+  const double p = 1.005 * DruckLV(r.s, 150);
+  const Zustand fluessig = Loese(r.s, 150, p);
+  ASSERT_TRUE(fluessig.istL && !fluessig.istV && fluessig.vV > 0);
+  r.Vorgabe(150, p).Rechne(3);
+  EXPECT_TRUE(r.k.HatL && r.k.HatV);
+  EXPECT_REL(r.Zelle(ZelleVV), fluessig.vV, 1e-12);
+  EXPECT_REL(r.Zelle(ZelleVL), r.s.Stoff.MolMasse / BensonMethan(r.s, 150, fluessig.rhoV), 1e-12);
 
   Rechnung v(StoffMitModell(CasWasser, 14));
   v.Vorgabe(400, 100).Rechne(3);
