@@ -59,11 +59,11 @@ frmCalcIn::frmCalcIn(ProjectState& s, ui::Oberflaeche& ui, RechnungsFenster fens
     : s_(s), ui_(ui), f_(std::move(fenster)) {}
 
 // The case itself asks for PARTIAL: T and p at equilibrium, or Benson's liquid density for the
-// enthalpy of vaporization and the vessel.
+// enthalpy of vaporization and the vessel. The equilibria by T or p stay free to choose whatever
+// method of the enthalpy of vaporization is set: they take its value from the EOS.
 bool frmCalcIn::PartialErzwungen() const {
   const int16_t a = s_.RechenArt;
-  return (a == art::Tp && s_.Rechnung.TpGleichgewicht) || a >= art::HLVvonT ||
-         s_.Modell.HLVIndex == HLVAusBenson;
+  return (a == art::Tp && s_.Rechnung.TpGleichgewicht) || a >= art::HLVvonT;
 }
 
 void frmCalcIn::SituationSetzen() {

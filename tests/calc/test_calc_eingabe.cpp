@@ -37,6 +37,7 @@ TEST(frmCalcIn, SituationAndConceptByCase) {
     const char* ersteZeile;
     int opt_glob;
     bool globalWaehlbar;
+    int16_t hlv = 7;
   };
   const std::vector<Fall> faelle{
       {13, 4, false, false, "Die gewählte EOS ist nur für die V-Phasen-Berechnung anwendbar.", 1, true},
@@ -47,9 +48,12 @@ TEST(frmCalcIn, SituationAndConceptByCase) {
       {6, 5, false, false, "Gleichgewichtsberechnung V-L erfolgt mit der aktuellen Dampfdruckgleichung.", 1,
        true},
       {6, 10, false, true, "Die Berechnung der Dichte (bzw. des Molvolumens) der L-Phase erfolgt", 1, false},
+      // Benson's enthalpy of vaporization: the equilibria by T keep GLOBAL, its own kinds are PARTIAL.
+      {6, 4, false, true, "Die Berechnung der Dichte (bzw. des Molvolumens) der L-Phase erfolgt", 0, true, 6},
+      {6, 6, false, true, "Die Berechnung der Dichte (bzw. des Molvolumens) der L-Phase erfolgt", 1, false, 6},
   };
   for (const Fall& f : faelle) {
-    Dialog d(f.eos, f.art);
+    Dialog d(f.eos, f.art, f.hlv);
     d.s.Rechnung.TpGleichgewicht = f.tp;
     d.s.Modell.KonzeptGlobal = f.konzeptGlobal;
     d.frm.Form_Load();
