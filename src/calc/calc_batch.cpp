@@ -120,6 +120,11 @@ bool DiagnoseMoeglich(const Lauf& l) {
   return true;
 }
 
+void KeinePhase(ErgebnisSeite& seite) {
+  seite.lblLphase.sichtbar = false;
+  seite.lblVphase.sichtbar = false;
+}
+
 void Abschluss(Lauf& l, float& eta) {
   ErgebnisSeite& seite = l.seite;
   RechenKontext& k = l.k;
@@ -136,7 +141,10 @@ void Abschluss(Lauf& l, float& eta) {
     ParameterBlock(l);
     EndlichPruefen(l);
   }
-  if (k.ErrorFlag) FehlerSatz(l);
+  if (k.ErrorFlag) {
+    FehlerSatz(l);
+    KeinePhase(seite); // a failed calculation shows no phase
+  }
   SatzSpeichern(l);
 
   if (k.HatL && !k.HatV) eta = 0;
@@ -226,6 +234,7 @@ void CalcBatch(ProjectState& s, ui::Oberflaeche& ui, ErgebnisSeite& seite, Reche
     Abschluss(l, eta);
     p = l.p;
   } catch (const std::exception& e) {
+    KeinePhase(seite);
     ui.Meldung(std::string("Meldung von Sub CalcBatch:") + CRLF + e.what(), "WARNUNG", ui::Symbol::Ausruf);
   }
 }

@@ -35,14 +35,19 @@ TEST(CalcBatchGleichgewicht, GlobalFromTheCubicEquation) {
   WieGespeichert(r.seite, "art5_global");
 }
 
-// Above the critical point there is no equilibrium: the given value turns red.
+// Above the critical point there is no equilibrium: the given value turns red and no phase is shown,
+// neither the equilibrium's two nor the one the region would name.
 TEST(CalcBatchGleichgewicht, AboveTheCriticalPoint) {
   Rechnung r(StoffMitModell(CasMethan, 6));
+  r.Vorgabe(150, 500).Rechne(3);
+  ASSERT_TRUE(r.seite.lblVphase.sichtbar);
   r.Vorgabe(200, 5000).Rechne(4);
   EXPECT_TRUE(r.k.ErrorFlag);
   EXPECT_EQ(r.seite.par1.text, "T = 200.000 K > T(cr) !!!");
   EXPECT_EQ(r.seite.par1.farbe, TextFarbe::Rot);
+  EXPECT_FALSE(r.seite.lblLphase.sichtbar || r.seite.lblVphase.sichtbar);
   EXPECT_EQ(r.Rechne(5).seite.par1.text, "p = 5000.000 kPa > p(cr) !!!");
+  EXPECT_FALSE(r.seite.lblLphase.sichtbar || r.seite.lblVphase.sichtbar);
   EXPECT_EQ(r.Vorgabe(190.56, 0).Rechne(6).seite.par1.text, "T = 190.560 K >= T(cr) !!!");
 }
 
