@@ -69,6 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   }
   const quor::DatenbankGruppe& db = s.Datenbank;
   Pruefe(db.StoffAnzahl >= 1 && db.NamenListe.size() == static_cast<std::size_t>(db.StoffAnzahl) + 1);
+  Pruefe(db.StoffAnzahl <= db.KopfAnzahl && db.Saetze.size() <= bytes.size()); // complete records only
   for (int k = 1; k <= db.StoffAnzahl && k <= 20; ++k) {
     Pruefe(quor::IstUtf8(db.NamenListe[k]) && quor::IstUtf8(db.FormelListe[k]) &&
            quor::IstUtf8(db.CASListe[k]));

@@ -16,6 +16,7 @@ struct DatenbankGruppe {
 
   // The lists of the open database, each indexed from 1 to StoffAnzahl (element 0 stays empty).
   int16_t StoffAnzahl = 0;
+  int16_t KopfAnzahl = 0; // what the header counts; more than StoffAnzahl in a file cut short
   std::vector<int16_t> MDBNummern;
   std::vector<std::string> FormelListe; // up to 12 characters
   std::vector<std::string> NamenListe;  // up to 107 characters, text behind a ';' included

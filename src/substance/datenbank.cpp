@@ -86,21 +86,35 @@ void LadeDatenbankAusBytes(ProjectState& s, int typ, const std::string& pfad, co
     failed = -1;
     return;
   }
-  const int16_t anzahl = DatenbankSatz(typ, std::string_view(bytes).substr(0, laenge)).Nummer();
-  if (anzahl < 1) {
+  const int16_t kopf = DatenbankSatz(typ, std::string_view(bytes).substr(0, laenge)).Nummer();
+  if (kopf < 1) {
     leer = true;
     return;
   }
-  if (bytes.size() < (static_cast<std::size_t>(anzahl) + 1) * laenge) {
+  // The complete records count, whatever the header says.
+  const std::size_t vollstaendig = bytes.size() / laenge - 1;
+  const auto anzahl = static_cast<int16_t>(std::min<std::size_t>(static_cast<std::size_t>(kopf), vollstaendig));
+  if (anzahl < 1) {
     failed = -1;
     return;
   }
   DatenbankGruppe& db = s.Datenbank;
   BaueListen(db, typ, bytes, anzahl, db.EnglischeOberflaeche);
+  db.KopfAnzahl = kopf;
   db.Saetze.assign(bytes, 0, (static_cast<std::size_t>(anzahl) + 1) * laenge);
   db.DatenbankTyp = static_cast<int16_t>(typ);
   (typ == 6 ? db.PfadQ06 : db.PfadQ07) = pfad;
   db.DatenbankGeladen = true;
+}
+
+void MeldeUnvollstaendig(const ProjectState& s, const std::string& pfad, ui::Oberflaeche& ui) {
+  const DatenbankGruppe& db = s.Datenbank;
+  if (db.KopfAnzahl <= db.StoffAnzahl) return;
+  ui.Meldung("Die Datenbank " + pfad + " ist unvollständig:\r\nihr Kopfsatz nennt " +
+                 std::to_string(db.KopfAnzahl) + " Stoffe, vollständig enthalten sind " +
+                 std::to_string(db.StoffAnzahl) + ".\r\nDiese " + std::to_string(db.StoffAnzahl) +
+                 " Stoffe stehen zur Wahl.",
+             "Hinweis", ui::Symbol::Information);
 }
 
 bool DatenbankOeffnen(ProjectState& s, int typ, const std::string& pfad, ui::Oberflaeche& ui) {
@@ -108,7 +122,10 @@ bool DatenbankOeffnen(ProjectState& s, int typ, const std::string& pfad, ui::Obe
   bool leer = false;
   const bool vorher = s.Datenbank.DatenbankGeladen;
   LadeDatenbank(s, typ, pfad, failed, leer);
-  if (failed == 0 && !leer) return true;
+  if (failed == 0 && !leer) {
+    MeldeUnvollstaendig(s, pfad, ui);
+    return true;
+  }
   if (vorher) {
     ui.Meldung("Datenbank " + pfad +
                    " im QUOR-Verzeichnis nicht gefunden bzw. leer.\r\n"

@@ -20,16 +20,21 @@ std::string PfadImProgrammVerzeichnis(const ProjectState& s, const std::string& 
 // False for an empty name, for a file that doesn't exist and for any error of the look-up.
 bool DateiVorhanden(const ProjectState& s, const std::string& pfad);
 
-// Opens the database of kind `typ` (6 or 7) and builds its lists. `failed` (-1) for a file that is
-// missing or broken (header cut short, fewer records than the header counts); `leer` for a header
-// count below 1. On either, whatever database was open stays open. Shows nothing.
+// Opens the database of kind `typ` (6 or 7) and builds its lists. A file that holds fewer complete
+// records than its header counts is opened with those it holds (`KopfAnzahl` keeps the header's
+// count). `failed` (-1) for a file that is missing or holds no complete substance record; `leer` for
+// a header count below 1. On either, whatever database was open stays open. Shows nothing.
 void LadeDatenbank(ProjectState& s, int typ, const std::string& pfad, int16_t& failed, bool& leer);
 
 // The same for file bytes already read; `pfad` is only remembered.
 void LadeDatenbankAusBytes(ProjectState& s, int typ, const std::string& pfad, const std::string& bytes,
                            int16_t& failed, bool& leer);
 
-// LadeDatenbank with the user's message on failure or an empty file; true on success.
+// The note on a database cut short: how many substances its header counts and how many it holds.
+void MeldeUnvollstaendig(const ProjectState& s, const std::string& pfad, ui::Oberflaeche& ui);
+
+// LadeDatenbank with the user's message on failure or an empty file, and a note when the file was
+// cut short; true on success.
 bool DatenbankOeffnen(ProjectState& s, int typ, const std::string& pfad, ui::Oberflaeche& ui);
 
 // The file dialog for a database of kind `typ`, then DatenbankOeffnen; `cancelled` when the user

@@ -35,7 +35,10 @@ bool DatenbankDesProjekts(ProjectState& s, int kind, const std::string& name, ui
   int16_t failed = 0;
   bool leer = false;
   LadeDatenbank(s, kind, name, failed, leer);
-  if (failed == 0 && !leer) return true;
+  if (failed == 0 && !leer) {
+    MeldeUnvollstaendig(s, name, ui);
+    return true;
+  }
   if (!gehalten) {
     ui.Meldung("Projekt-Datenbank " + name + " im QUOR-Verzeichnis nicht gefunden", NichtMoeglich,
                ui::Symbol::Kritisch);

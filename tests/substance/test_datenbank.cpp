@@ -149,8 +149,7 @@ std::vector<KaputteDatei> KaputteDateien() {
   return {
       {"leere Datei", ""},
       {"Kopf abgeschnitten", gut.substr(0, 385)},
-      {"Anzahl groesser als die Datei", RohDatei(7, 5, {Stoff(7, 1, "CH4", "Methan", "74-82-8")})},
-      {"letzter Satz abgeschnitten", gut.substr(0, gut.size() - 1)},
+      {"Anzahl groesser als die Datei ohne vollstaendigen Satz", RohDatei(7, 5, {}) + std::string(900, ' ')},
       {"negative Anzahl", RohDatei(7, -3, {})},
       {"Anzahl 0", RohDatei(7, 0, {})},
       {"fehlende Datei", "", true},
@@ -186,6 +185,31 @@ TEST(DatenbankOeffnen, BrokenFilesFailAndKeepTheEarlierDatabase) {
     int16_t failed = 0;
     LadeStoff(s, 2, failed);
     EXPECT_EQ(std::tie(s.Datenbank.PfadQ07, s.Stoff.StoffName), std::make_tuple(gut, "Glykol"));
+  }
+}
+
+// A count above the records held, or a last record cut short: the complete records are opened, and
+// the user is told how many the header promised.
+TEST(DatenbankOeffnen, AFileCutShortOpensItsCompleteRecords) {
+  const std::string gut = ZweiStoffe(7);
+  for (const auto& [name, bytes, kopf] :
+       {std::tuple{"Anzahl groesser als die Datei", RohDatei(7, 5, {Stoff(7, 1, "CH4", "Methan", "74-82-8")}), 5},
+        {"letzter Satz abgeschnitten", gut.substr(0, gut.size() - 1), 2}}) {
+    SCOPED_TRACE(name);
+    TempOrdner dir;
+    const std::string pfad = dir.Schreibe("K.Q07", bytes);
+    ProjectState s;
+    ui::SkriptOberflaeche ui;
+    ASSERT_TRUE(DatenbankOeffnen(s, 7, pfad, ui));
+    EXPECT_EQ(std::tie(s.Datenbank.StoffAnzahl, s.Datenbank.KopfAnzahl, s.Datenbank.NamenListe[1]),
+              std::make_tuple(1, kopf, "Methan"));
+    ASSERT_EQ(ui.Meldungen().size(), 1u);
+    EXPECT_EQ(ui.Letzte().text, "Die Datenbank " + pfad + " ist unvollständig:\r\nihr Kopfsatz nennt " +
+                                    std::to_string(kopf) +
+                                    " Stoffe, vollständig enthalten sind 1.\r\nDiese 1 Stoffe stehen zur Wahl.");
+    int16_t failed = 0;
+    LadeStoff(s, 1, failed);
+    EXPECT_NE(s.Stoff.StoffName.find("Methan"), std::string::npos);
   }
 }
 
