@@ -82,8 +82,9 @@ ModellAktionen frmQModell::EOSListe_Click(int eintrag) {
     m.VirialFlag = false;
     if (warVirial) {
       m.KonzeptGlobal = true;
-      // The cubic route for delta(LV)h comes back where the list offered it before.
-      if (HLV.Position(HLVAusKubischerEOS) < 0 && std::fabs(s_.Stoff.omega) > 1e-6)
+      // The cubic route for delta(LV)h comes back at the end of its list whatever the acentric
+      // factor: the cubic models without it (van der Waals, Berthelot, Redlich/Kwong) give it too.
+      if (HLV.Position(HLVAusKubischerEOS) < 0)
         HLV.Hinzu(HLVAusKubischerEOS, s_.Tab.HLVNamen[HLVAusKubischerEOS]);
     }
   } else {

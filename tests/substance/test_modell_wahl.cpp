@@ -85,6 +85,10 @@ TEST(frmQModell, LeavesOutWhatNeedsTheAcentricFactorOrTheCriticalPoint) {
   EXPECT_EQ(d.s.Modell.EOSIndex, 4); // the default without omega
   EXPECT_EQ(d.frm.HLV.Index, (Indizes{1, 2, 4, 5, 6}));
   EXPECT_TRUE(d.ui.protokoll.empty()); // nothing offered needs omega, so no warning
+  // Back from a virial model the cubic route of delta(LV)h is offered: van der Waals gives it.
+  d.EOSWahl(11);
+  d.EOSWahl(2);
+  EXPECT_EQ(d.frm.HLV.Index, (Indizes{1, 2, 4, 5, 6, 7}));
 
   // Without critical data only the ideal gas is left.
   ProjectState leer;
