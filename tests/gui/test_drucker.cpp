@@ -1,5 +1,6 @@
-// The printed batch report as a PDF: the poppler tools read it back, its lines in order on two pages,
-// and a page rendered at 72 dpi (one pixel a point) shows text lines of a normal size.
+// The printed batch report as a PDF: the poppler tools read it back, its name plain, its lines in
+// order on two pages, and a page rendered at 72 dpi (one pixel a point) shows text lines of a normal
+// size.
 #include "calc/bericht.h"
 #include "calc/test_ergebnis_seite_daten.h"
 #include "gui/basis/qt_drucker.h"
@@ -8,6 +9,7 @@
 
 #include <QImage>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <gtest/gtest.h>
 
@@ -47,7 +49,7 @@ std::vector<int> TextZeilenHoehen(const QImage& seite) {
 
 TEST(Drucker, BatchReportPrintsToAReadableTwoPagePdf) {
   test::App();
-  if (Werkzeug("pdftotext").isEmpty() || Werkzeug("pdftoppm").isEmpty())
+  if (Werkzeug("pdftotext").isEmpty() || Werkzeug("pdftoppm").isEmpty() || Werkzeug("pdfinfo").isEmpty())
     GTEST_SKIP() << "poppler-utils fehlt";
   quor::test::TempOrdner tmp;
   ProjectState s = quor::test::StapelZustand(tmp.Pfad());
@@ -62,6 +64,10 @@ TEST(Drucker, BatchReportPrintsToAReadableTwoPagePdf) {
   const std::string pdf = tmp.Datei("bericht.pdf");
   drucker.SetzePdfZiel(pdf);
   ASSERT_TRUE(DruckeBericht(drucker, s, k, auftrag));
+
+  // The document's name, which a print dialog proposes as file name, has no ":".
+  EXPECT_TRUE(Lauf(Werkzeug("pdfinfo"), {QString::fromStdString(pdf)}).contains(QRegularExpression(
+      "Title: +QUOR Results of Calculation\n")));
 
   const QString text = Lauf(Werkzeug("pdftotext"), QStringList{"-layout", QString::fromStdString(pdf), "-"});
   EXPECT_EQ(text.count('\f'), 2) << "two pages";
