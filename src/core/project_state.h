@@ -9,6 +9,7 @@
 #include <string>
 
 #include "core/datenbank_gruppe.h"
+#include "core/diagramm_gruppe.h"
 #include "core/messdaten_gruppe.h"
 #include "core/optionen_zusatz.h"
 #include "core/projekt_gruppe.h"
@@ -153,6 +154,7 @@ struct ProjectState {
   ProjektGruppe Projekt;
   RechnungGruppe Rechnung; // set-up of the state calculation
   OptionenZusatz Zusatz;   // diagram mode, process-line start values
+  DiagrammGruppe Diagramm; // fields of the curve engine
 };
 
 // The parameter set-up of the equation of state lives in the engine, which sits above this layer;
