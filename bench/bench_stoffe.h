@@ -1,4 +1,5 @@
-// The test substance of the benchmarks: methane with Peng/Robinson and the polynomial ideal-gas cp.
+// The test substances of the benchmarks: methane and propane with Peng/Robinson and the polynomial
+// ideal-gas cp (textbook constants).
 #pragma once
 
 #include "core/project_state.h"
@@ -20,6 +21,26 @@ inline ProjectState PengRobinsonMethan() {
   s.Modell.CpIndex = 1;
   s.Modell.EOSIndex = 6;
   s.Modell.VirialFlag = false;
+  ui::SkriptOberflaeche ui;
+  int16_t err = 0;
+  EOSParameterSetup(s, ui, 6, err);
+  return s;
+}
+
+inline ProjectState PengRobinsonPropan() {
+  ProjectState s;
+  InitProjectState(s);
+  s.Stoff.StoffName = "Propan";
+  s.Stoff.MolMasse = 44.097f;
+  s.Stoff.TSiede = 231.1f;
+  s.Stoff.TKrit = 369.83;
+  s.Stoff.pKrit = 4248;
+  s.Stoff.omega = 0.152;
+  s.Stoff.CpPoly = {31.98f, 0.04266f, 4.998e-4f, -6.562e-7f, 2.56e-10f};
+  s.Modell.CpIndex = 1;
+  s.Modell.EOSIndex = 6;
+  s.Modell.VirialFlag = false;
+  s.Modell.RechnungGlobal = true;
   ui::SkriptOberflaeche ui;
   int16_t err = 0;
   EOSParameterSetup(s, ui, 6, err);

@@ -45,10 +45,10 @@ const Option Optionen[] = {
     {"--virial-b2", true, ""},
     {"--json", false, ""},
     {"--help", false, ""},
-    {"--T", true, "calc"},
-    {"--p", true, "calc"},
+    {"--T", true, "calc curve"},
+    {"--p", true, "calc curve"},
     {"--rho", true, "calc"},
-    {"--v", true, "calc"},
+    {"--v", true, "calc curve"},
     {"--m", true, "calc"},
     {"--V", true, "calc"},
     {"--equilibrium", false, "calc"},
@@ -59,6 +59,13 @@ const Option Optionen[] = {
     {"--lst", true, "batch"},
     {"--csv", true, "batch"},
     {"--details", false, "batch"},
+    {"--x", true, "curve"},
+    {"--y", true, "curve"},
+    {"--points", true, "curve"},
+    {"--isohygre", true, "curve"},
+    {"--s-loop", false, "curve"},
+    {"--real", false, "curve"},
+    {"--tie-line", false, "curve"},
 };
 
 const Option* FindeOption(const std::string& name) {
@@ -122,6 +129,17 @@ std::array<std::string, 4> Bezugspunkt(const std::string& text) {
   return werte;
 }
 
+// An axis range "A,B" (";" separates when it is used, since "," is also a decimal mark); it must rise.
+std::array<double, 2> Bereich(const std::string& option, const std::string& text) {
+  const char trenner = text.find(';') != std::string::npos ? ';' : ',';
+  const std::size_t teil = text.find(trenner);
+  if (teil == std::string::npos || text.find(trenner, teil + 1) != std::string::npos)
+    throw Eingabefehler(option + " \"" + text + "\": expected two values A,B");
+  const std::array<double, 2> b{Zahl(option, text.substr(0, teil)), Zahl(option, text.substr(teil + 1))};
+  if (!(b[0] < b[1])) throw Eingabefehler(option + " \"" + text + "\": the range must rise (A < B)");
+  return b;
+}
+
 bool ArtErlaubt(const std::string& befehl, int a) {
   if (a < art::TRhoV || a > art::DbRhoS || a == art::Polytrope || a == art::OhneZweig) return false;
   return befehl != "batch" || !art::IstBehaelter(a);
@@ -167,9 +185,10 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   if (a.Hilfe) return a;
 
   if (positionen.empty())
-    throw Eingabefehler("no command given (list, info, calc, batch; see quor-cli --help)");
+    throw Eingabefehler("no command given (list, info, calc, batch, curve; see quor-cli --help)");
   a.Befehl = positionen[0];
-  if (a.Befehl != "list" && a.Befehl != "info" && a.Befehl != "calc" && a.Befehl != "batch")
+  if (a.Befehl != "list" && a.Befehl != "info" && a.Befehl != "calc" && a.Befehl != "batch" &&
+      a.Befehl != "curve")
     throw Eingabefehler("unknown command '" + a.Befehl + "' (see quor-cli --help)");
   const bool mitArt = a.Befehl == "calc" || a.Befehl == "batch";
   if (mitArt) {
@@ -179,7 +198,11 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
     if (!ArtErlaubt(a.Befehl, a.Art))
       throw Eingabefehler("kind " + positionen[1] + " is not available for " + a.Befehl);
   }
-  const std::size_t erwartet = mitArt ? 2 : 1;
+  if (a.Befehl == "curve") {
+    if (positionen.size() < 2) throw Eingabefehler("curve needs the diagram code (see quor-cli --help)");
+    a.Code = Ganzzahl("code", positionen[1], 1, 315);
+  }
+  const std::size_t erwartet = mitArt || a.Befehl == "curve" ? 2 : 1;
   if (positionen.size() > erwartet) throw Eingabefehler("unexpected argument '" + positionen[erwartet] + "'");
 
   for (const std::string& name : a.Gegeben) {
@@ -257,6 +280,17 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   if (hat("--lst")) a.Lst = wert("--lst");
   if (hat("--csv")) a.Csv = wert("--csv");
   if (a.Befehl == "batch" && a.Daten.empty()) throw Eingabefehler("batch needs --data FILE.BAQ");
+  if (hat("--x")) a.XBereich = Bereich("--x", wert("--x"));
+  if (hat("--y")) a.YBereich = Bereich("--y", wert("--y"));
+  if (hat("--points")) a.Punkte = Ganzzahl("--points", wert("--points"), 2, 32000);
+  if (hat("--isohygre")) {
+    a.Isohygre = Zahl("--isohygre", wert("--isohygre"));
+    if (!(*a.Isohygre >= 0 && *a.Isohygre <= 1))
+      throw Eingabefehler("--isohygre " + wert("--isohygre") + ": expected a vapour fraction from 0 to 1");
+  }
+  a.SSchleife = hat("--s-loop");
+  a.Real = hat("--real");
+  a.Konnode = hat("--tie-line");
   return a;
 }
 

@@ -28,7 +28,7 @@ struct Aufruf {
   bool Json = false;
   bool Hilfe = false;
 
-  std::string Befehl; // list, info, calc, batch
+  std::string Befehl; // list, info, calc, batch, curve
   int Art = 0;        // kind of calc and batch
 
   // Options of calc and batch.
@@ -40,6 +40,13 @@ struct Aufruf {
   bool Details = false;
   std::optional<std::array<std::string, 4>> Bezugspunkt; // T, p, rho(L), rho(V), checked numbers
   std::string Daten, Lst, Csv;
+
+  // Options of curve.
+  int Code = 0; // the diagram code
+  std::optional<std::array<double, 2>> XBereich, YBereich; // axis ranges, displayed units
+  std::optional<int> Punkte;                              // points per curve
+  std::optional<double> Isohygre;
+  bool SSchleife = false, Real = false, Konnode = false;
 
   std::set<std::string> Gegeben;           // every option named on the line
   std::map<std::string, std::string> Text; // the value of each option as typed
