@@ -19,6 +19,8 @@ Commands:
                           every live point of a measured-data file; one line per point;
                           --lst writes the result list, --csv the record of all points,
                           --details adds the per-point derivative pages to the list
+  curve CODE [options]    one curve of a 2D diagram as the diagram page gets it: title, axis
+                          texts, then "X Y Z" per point (displayed units; Z the curve's parameter)
 
 Kinds (KIND):
   1  T, rho(V) => p          2  T, rho(L) => p          3  T, p => rho
@@ -41,6 +43,23 @@ Options of calc:
   --ref-point T,p,rhoL,rhoV
                           reference point of a PARTIAL calculation (also for batch); without it
                           the point is proposed from the substance's data
+
+Options of curve:
+  --T X | --p X | --v X   the curve's parameter: T for an isotherm, p for an isobar, v (unit of
+                          --volume-mode) for an isochor; curves of the two-phase region, the
+                          inversion curve and the database functions take none
+  --x A,B, --y A,B        axis ranges in displayed units (";" may separate); default: the
+                          diagram's standard ranges
+  --points N              points per curve (default 500)
+  --isohygre X            vapour fraction of a line of the two-phase region (0 boiling, 1 dew)
+  --s-loop                draw the S-loop of an isotherm inside the two-phase region
+  --real                  follow the real behaviour (tie line) inside the two-phase region
+  --tie-line              the tie line of the state instead of the curve
+  Codes: 1 p-v, 26 rho-p, 2 pv-p (isotherms); 3 T-v, 4 T-rho (isobars); 5 p-T (isochor);
+  14..20, 25, 19, 30..34 functions over T at p; 148..155, 40..43 over p at T; 156..160 over v;
+  180..185 over T at v; 6, 7, 8, 9, 10, 11, 12, 13, 27, 80, 106 the two-phase region;
+  90..95 functions along saturation; 21..24, 107, 109 h-s and exergy diagrams;
+  105, 190 inversion curves; 300..315 database functions of T.
 
 Global options:
   --db PATH               database (.Q07, or .Q06); default QUOR.Q07 of the program directory
