@@ -105,9 +105,6 @@ struct StandardBereiche {
 // the model at a few states spread over those T and p ranges. The model's work fields are used.
 StandardBereiche BereicheVon(ProjectState& s);
 
-// The lowest temperature of the standard ranges.
-double UntereTemperatur(const StoffGruppe& st);
-
 // A range in displayed units: the quantity's display factor applied (TFaktor, pFaktor,
 // VolumenFaktor, EnergieFaktor), then widened by 5 % of its span on each side.
 Bereich AnzeigeBereich(Groesse g, Bereich engine, const EinheitenGruppe& e);

@@ -19,6 +19,12 @@ using G = Groesse;
 
 constexpr double Rand = 0.05; // widening on each side, share of the span
 
+// The lowest temperature of the standard ranges: the triple point, else half the critical
+// temperature.
+double UntereTemperatur(const StoffGruppe& st) {
+  return st.TTripel > 1e-6 && st.TTripel < st.TKrit ? st.TTripel : 0.5 * st.TKrit;
+}
+
 // Slope factor of the generalised vapour-pressure curve ln(p/pc) = f*(1 - Tc/T).
 double WilsonFaktor(const StoffGruppe& st) {
   return 5.373 * (1 + st.omega);
@@ -248,10 +254,6 @@ void DatenbankBereich(ProjectState& s, const StandardBereiche& b, int code, Bere
 }
 
 } // namespace
-
-double UntereTemperatur(const StoffGruppe& st) {
-  return st.TTripel > 1e-6 && st.TTripel < st.TKrit ? st.TTripel : 0.5 * st.TKrit;
-}
 
 StandardBereiche BereicheVon(ProjectState& s) {
   StandardBereiche b;
