@@ -102,7 +102,7 @@ struct StandardBereiche {
 // The standards of the loaded substance: T from the triple point (half the critical temperature
 // when it is missing) to 1.5 TKrit, p up to 2 pKrit, v and rho about the critical volume, the
 // vapour-pressure axes from a generalised vapour-pressure curve, and the caloric quantities from
-// the model at a few states spread over those T and p ranges. The model's work fields are used.
+// the model at a few states spread over those T and p ranges (its work fields are left as found).
 StandardBereiche BereicheVon(ProjectState& s);
 
 // A range in displayed units: the quantity's display factor applied (TFaktor, pFaktor,

@@ -147,8 +147,8 @@ void KalorischeBereiche(ProjectState& s, StandardBereiche& b) {
     b[g] = z.Von(g, energie);
   for (Groesse g : {G::S, G::ResS})
     b[g] = z.Von(g, entropie);
-  const double Tu = s.Referenz.TUmgebung;
-  b[G::TuS] = z.Von(G::TuS, {entropie.Min * Tu, entropie.Max * Tu});
+  const double Tumg = s.Referenz.TUmgebung;
+  b[G::TuS] = z.Von(G::TuS, {entropie.Min * Tumg, entropie.Max * Tumg});
   // heat capacities and exergies from zero up
   b[G::Cp] = {0, z.Von(G::Cp, {0, 200}).Max};
   b[G::Cv] = {0, z.Von(G::Cv, {0, 200}).Max};
