@@ -117,5 +117,25 @@ TEST(CliBefehle, BatchLiestDieAeltereFormUndDatenEinesFremdenStoffs) {
   EXPECT_NE(e.aus.find("\n    5  V+L   T = 450 K"), std::string::npos) << e.aus;
 }
 
+// curve: the catalogue's texts and ranges, and every point of a subcritical isotherm on the
+// equation's own pressure (the liquid and vapour sides with the two saturation points between).
+TEST(CliBefehle, CurveGibtDieIsothermeAlsPunkteDerGleichung) {
+  const Json info = StarteJson({"--substance", "Propan", "info"});
+  const Json k = StarteJson({"--substance", "Propan", "curve", "1", "--T", "300", "--points", "200", "--x", "0.06;4"});
+  EXPECT_EQ(k["title"].T(), "p - V (isothermer Schnitt)");
+  EXPECT_EQ(k["x_text"].T(), "v / (m^3/kmol)");
+  EXPECT_EQ(k["head_z"].Z(), -1);
+  EXPECT_TRUE(k["in_range"].B());
+  const auto& punkte = k["points"].liste;
+  ASSERT_GT(punkte.size(), 100u);
+  for (const Json& punkt : punkte) {
+    EXPECT_TRUE(IstWurzel(info, 300, punkt[1].Z(), punkt[0].Z(), 2e-6)) << punkt[0].Z();
+    EXPECT_EQ(punkt[2].Z(), 300);
+  }
+  const Ergebnis text = Starte({"--substance", "Propan", "curve", "9"});
+  EXPECT_EQ(text.code, 0);
+  EXPECT_EQ(text.aus.rfind("Dampfdruck p(LV):  p(LV) vs. T\nx: T / K\ny: p / kPa\n", 0), 0u) << text.aus;
+}
+
 } // namespace
 } // namespace quor::test

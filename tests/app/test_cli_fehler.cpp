@@ -27,6 +27,11 @@ TEST(CliFehler, EingabefehlerEndenMitCode2UndGescheiterteRechnungenMitCode1) {
       {{"--substance", W, "calc", "3", "--T", "300", "--p", "1", "--m", "2"}, 2, "calc 3 does not use --m"},
       {{"--substance", W, "calc", "12", "--T", "300"}, 2, "kind 12 is not available for calc"},
       {{"--substance", W, "--bogus", "info"}, 2, "unknown option --bogus"},
+      {{"--substance", W, "curve", "50"}, 2, "code 50 is no diagram code"},
+      {{"--substance", W, "curve", "1", "--T", "300", "--x", "2,1"}, 2, "the range must rise"},
+      {{"--substance", W, "curve", "1"}, 2, "code 1 needs --T"},
+      {{"--substance", W, "curve", "9", "--T", "300"}, 2, "code 9 takes no --T"},
+      {{"--substance", W, "curve", "1", "--T", "nan"}, 2, "keine gültige Eingabe (--T \"nan\")"},
       {{"frobnicate"}, 2, "unknown command 'frobnicate'"},
       {{"info"}, 2, "command info needs --substance"},
       // Above the critical temperature there is no vapour pressure, and PARTIAL has no vessel.
