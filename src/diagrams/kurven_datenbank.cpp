@@ -109,10 +109,11 @@ void Datenbankfunktion(Lauf& l) {
   const double bis = g.THi > 0 ? g.THi : l.a.Xmax / l.TF();
   if (!(bis > von)) return;
   const double n = std::max<int16_t>(l.s.Optionen.PunktDichte, 1);
-  for (double T : Schritte(von, bis, (bis - von) / n)) {
+  Schritte(von, bis, (bis - von) / n, 0.9, [&](double T) {
     double y = 0;
     if (T > 0 && FunktionsWert(l.s, c, T, y)) l.Punkt(T * l.TF(), y, 0);
-  }
+    return true;
+  });
   l.Kopf(kopf::OhneParameter);
 }
 

@@ -1,8 +1,9 @@
-// The quantities the caloric curves plot: which pair of coordinates a code shows, the state of one
-// phase with its caloric block, and the value of a coordinate in displayed units.
+// The quantities the caloric curves plot: the family and the pair of axes of a code, the state of one
+// phase with its caloric block, and the value of a quantity in displayed units.
 #pragma once
 
-#include "core/project_state.h"
+#include "diagrams/katalog.h"
+#include "diagrams/kurven_hilfen.h"
 #include "engine/kalorik.h"
 
 #include <array>
@@ -11,42 +12,18 @@
 
 namespace quor::kurven {
 
-// A coordinate of a diagram axis.
-enum class Koordinate : int16_t {
-  Keine,
-  T,
-  P,
-  V,
-  Rho,
-  PV, // p*v
-  U,
-  H,
-  S,
-  G,
-  A,
-  EU,
-  EH,
-  Cp,
-  Cv,
-  ResS,
-  ResH,
-  ResG,
-  ResCp,
-  Delta, // Joule-Thomson coefficient (dT/dp) at h
-  TuS,   // T(u)*s, the environment's temperature times the entropy
-};
-
 // What fixes the curve of a code: its parameter T (isotherm), p (isobar), v (isochor), or the
 // saturation line (Isohygre).
 enum class Familie : int16_t { Keine, Isotherme, Isobare, Isochore, Saettigung };
 
 struct Achsen {
   Familie familie = Familie::Keine;
-  Koordinate x = Koordinate::Keine;
-  Koordinate y = Koordinate::Keine;
+  Groesse x = Groesse::Anzahl;
+  Groesse y = Groesse::Anzahl;
 };
 
-// The axes of code `c`; familie Keine for codes that are no curves of a state's phases.
+// The family and the axes' quantities of code `c` by the catalogue; familie Keine for codes of
+// other families.
 Achsen AchsenVon(int16_t c);
 
 // One phase at (T, p, v) with its caloric block. Values the engine could not give are NaN, so that
@@ -60,9 +37,8 @@ struct Phasenzustand {
 // The caloric block of one phase at (T, p, v); `row` is the phase's row (0 liquid, 1 vapour).
 Phasenzustand PhaseBei(ProjectState& s, double T, double p, double v, int row);
 
-// The volume and the row of the stable phase at (T, p) as the state solver finds it (the vapour where
-// both exist); false when there is no root.
-bool StabilesVolumen(ProjectState& s, double T, double p, double& v, int& row);
+// The row of a single phase of volume v: the liquid's below the critical volume.
+int ZeileVon(const ProjectState& s, double v);
 
 // The stable phase at (T, p) with its caloric block; false when there is no root.
 bool StabilePhase(ProjectState& s, double T, double p, Phasenzustand& z);
@@ -73,8 +49,8 @@ bool Saettigung(ProjectState& s, double T, Phasenzustand& L, Phasenzustand& V);
 // The energy factor of the display at T (mode 2 divides by R*T).
 double EnergieFaktorBeiT(const ProjectState& s, double T);
 
-// The value of coordinate `k` of state `z` in displayed units; NaN when it is not available.
-double Wert(const ProjectState& s, Koordinate k, const Phasenzustand& z);
+// The value of quantity `g` of state `z` in displayed units; NaN when it is not available.
+double Wert(const ProjectState& s, Groesse g, const Phasenzustand& z);
 
 // The line of vapour fraction x between the two saturated phases: zL + (zV - zL)*x.
 inline double Mischung(double zL, double zV, double x) {
@@ -83,10 +59,6 @@ inline double Mischung(double zL, double zV, double x) {
 
 // The saturation temperature of the EOS at p; false above pKrit or when the search fails.
 bool SaettigungsTemperatur(ProjectState& s, double p, double& T);
-
-// The values of a loop from `von` towards `bis` in steps of |schritt|: the loop runs on while it has
-// passed `bis` by less than `grenze` steps, and its last value is clamped to `bis`.
-std::vector<double> Schritte(double von, double bis, double schritt, double grenze = 0.9);
 
 // `n` + 1 values from `von` to `bis` in equal ratios (both positive).
 std::vector<double> Geometrisch(double von, double bis, int n);

@@ -32,8 +32,8 @@ struct Residuum {
 };
 
 bool InversionsResiduum(ProjectState& s, double T, double p, Residuum& res) {
-  int row = PhaseV;
-  if (!(T > 0) || !(p > 0) || !StabilesVolumen(s, T, p, res.v, row)) return false;
+  if (!(T > 0) || !(p > 0) || !StabilesVolumen(s, T, p, res.v)) return false;
+  const int row = ZeileVon(s, res.v);
   EOSbeiT(s, T);
   if (s.Modell.VirialFlag) s.EOS.BVirial = BvonT(s, s.Modell.EOSIndex, T);
   EOSAbleitungen abl;
@@ -205,23 +205,23 @@ void InversionPT(Lauf& l) {
   ProjectState& s = l.s;
   const double Tc = s.Stoff.TKrit, pc = s.Stoff.pKrit;
   double vorher = 0;
-  for (double x : Schritte(l.a.Xmax, l.a.Xmin, l.dx / 3)) {
+  Schritte(l.a.Xmax, l.a.Xmin, -l.dx / 3, 0.9, [&](double x) {
     const double T = x / l.TF();
     double pUnten = 1e-3 * pc;
     if (T < Tc && !l.Virial()) {
       const double pS = SaettigungsDruck(s, T);
-      if (!(pS > 0)) continue;
+      if (!(pS > 0)) return true;
       pUnten = pS * (1 + 1e-9);
     }
     double p = 0;
     if (InversionsDruck(s, T, pUnten, HoechsterRelativerDruck * pc, vorher, p)) {
       l.Punkt(x, p * l.PF(), 0);
       vorher = p;
-    } else {
-      if (T < Tc) break;
-      vorher = 0;
+      return true;
     }
-  }
+    vorher = 0;
+    return !(T < Tc);
+  });
   l.Kopf(kopf::ZweiZweige);
 }
 
@@ -229,7 +229,11 @@ void InversionPT(Lauf& l) {
 // lower branch with p rising, then the upper one back.
 void InversionPv(Lauf& l) {
   ProjectState& s = l.s;
-  const auto druecke = Schritte(l.a.Xmin, l.a.Xmax, 2 * l.dx);
+  std::vector<double> druecke;
+  Schritte(l.a.Xmin, l.a.Xmax, 2 * l.dx, 0.9, [&](double x) {
+    druecke.push_back(x);
+    return true;
+  });
   if (druecke.empty()) return;
   const double pStart = std::max(druecke.front() / l.PF(), 0.01);
   double TStart = 0;

@@ -29,6 +29,13 @@ Konnode KonnodeDerKurve(Lauf& l) {
   return k;
 }
 
+// The tie line of a curve that crosses it between the ends of the X axis.
+Konnode KonnodeImBereich(Lauf& l) {
+  Konnode k = KonnodeDerKurve(l);
+  k.da = k.da && k.X1 >= l.a.Xmin && k.X1 <= l.a.Xmax;
+  return k;
+}
+
 // Writes the two ends once, the vapour's first, when the loop value x has reached the tie line's X
 // (coming from the vapour's side).
 void KonnodeBeimUebergang(Lauf& l, Konnode& k, double x, bool fallend, double z) {
@@ -42,11 +49,6 @@ void PunktDerPhase(Lauf& l, const Achsen& ach, const Phasenzustand& z, double pa
   l.Punkt(Wert(l.s, ach.x, z), Wert(l.s, ach.y, z), parameter);
 }
 
-// The row of a single phase of volume v: the liquid's below the critical volume.
-int ZeileVon(const ProjectState& s, double v) {
-  return v < s.EOS.vKritEOS ? PhaseL : PhaseV;
-}
-
 } // namespace
 
 // u, h, s, g, a, eH, eU, cp, the residual functions and delta over T at p, T falling.
@@ -56,13 +58,14 @@ void FunktionUeberT(Lauf& l) {
   const bool mitKonnode = !Zwischen(c, code::ResSvonT, code::JouleThomson) &&
                           (c != code::CpVonT || l.s.Optionen.SKurveOhneKonnode);
   Konnode k;
-  if (mitKonnode) k = KonnodeDerKurve(l);
-  for (double x : Schritte(l.a.Xmax, l.a.Xmin, l.dx)) {
+  if (mitKonnode) k = KonnodeImBereich(l);
+  Schritte(l.a.Xmax, l.a.Xmin, -l.dx, 0.9, [&](double x) {
     KonnodeBeimUebergang(l, k, x, true, l.p);
     const double T = x / l.TF();
     Phasenzustand z;
     if (T > 0 && StabilePhase(l.s, T, l.p, z)) PunktDerPhase(l, ach, z, l.p);
-  }
+    return true;
+  });
   l.Kopf(kopf::ZweiZweige);
 }
 
@@ -71,13 +74,14 @@ void FunktionUeberP(Lauf& l) {
   const int16_t c = l.a.Code;
   const Achsen ach = AchsenVon(c);
   Konnode k;
-  if (!Zwischen(c, code::ResSvonP, code::ResCpVonP)) k = KonnodeDerKurve(l);
-  for (double x : Schritte(l.a.Xmin, l.a.Xmax, l.dx)) {
+  if (!Zwischen(c, code::ResSvonP, code::ResCpVonP)) k = KonnodeImBereich(l);
+  Schritte(l.a.Xmin, l.a.Xmax, l.dx, 0.9, [&](double x) {
     KonnodeBeimUebergang(l, k, x, false, l.T);
     const double p = std::max(x / l.PF(), 0.01);
     Phasenzustand z;
     if (StabilePhase(l.s, l.T, p, z)) PunktDerPhase(l, ach, z, l.T);
-  }
+    return true;
+  });
   l.Kopf(kopf::MitParameter);
 }
 
@@ -89,16 +93,17 @@ void FunktionUeberV(Lauf& l) {
   const Konnode k = KonnodeDerKurve(l);
   EOSbeiT(s, l.T);
   const double bGrenze = 1.04 * s.EOS.bT;
-  for (double x : Schritte(l.a.Xmax, l.a.Xmin, l.dx / 2)) {
+  Schritte(l.a.Xmax, l.a.Xmin, -l.dx / 2, 0.9, [&](double x) {
     const double v = x / l.VF();
-    if (v <= bGrenze || (k.da && x > k.X1 && x < k.X2)) continue;
+    if (v <= bGrenze || (k.da && x > k.X1 && x < k.X2)) return true;
     int16_t err = 0;
     double p = PzuTV(s, l.T, v, err);
-    if (err != 0) continue;
+    if (err != 0) return true;
     if (p < 0) p = 0.01;
     const int row = k.da ? (x <= k.X1 ? PhaseL : PhaseV) : ZeileVon(s, v);
     PunktDerPhase(l, ach, PhaseBei(s, l.T, p, v, row), l.T);
-  }
+    return true;
+  });
   if (k.da) {
     l.Punkt(k.X1, k.Y1, l.T);
     l.Punkt(k.X2, k.Y2, l.T);
@@ -115,19 +120,20 @@ void IsochorFunktion(Lauf& l) {
   ProjectState& s = l.s;
   const Achsen ach = AchsenVon(l.a.Code);
   const bool real = s.Diagramm.MitRealverhalten && !l.Virial();
-  for (double x : Schritte(l.a.Xmin, l.a.Xmax, l.dx, 0.8)) {
+  Schritte(l.a.Xmin, l.a.Xmax, l.dx, 0.8, [&](double x) {
     const double T = x / l.TF();
-    if (!(T > 0)) continue;
+    if (!(T > 0)) return true;
     Phasenzustand L, V;
     if (real && T < s.Stoff.TKrit && Saettigung(s, T, L, V) && L.v < l.v && l.v < V.v) {
       const double q = (l.v - L.v) / (V.v - L.v);
       l.Punkt(x, Mischung(Wert(s, ach.y, L), Wert(s, ach.y, V), q), l.v);
-      continue;
+      return true;
     }
     int16_t err = 0;
     const double p = PzuTV(s, T, l.v, err);
     if (err == 0) PunktDerPhase(l, ach, PhaseBei(s, T, p, l.v, ZeileVon(s, l.v)), l.v);
-  }
+    return true;
+  });
   l.Kopf(kopf::ZweiZweige);
 }
 

@@ -83,7 +83,7 @@ void HSIsobare(Lauf& l, const Achsen& ach) {
   Phasenzustand L, V;
   bool konnode = SaettigungsTemperatur(s, l.p, TLV) && TLV < Tc && Saettigung(s, TLV, L, V);
   const double n = std::max<int16_t>(s.Optionen.PunktDichte, 1);
-  for (double T : Schritte(von, 3 * Tc, (3 * Tc - von) / n)) {
+  Schritte(von, 3 * Tc, (3 * Tc - von) / n, 0.9, [&](double T) {
     if (konnode && T >= TLV) {
       Schnitt(l, ach, L, l.p);
       Schnitt(l, ach, V, l.p);
@@ -91,7 +91,8 @@ void HSIsobare(Lauf& l, const Achsen& ach) {
     }
     Phasenzustand z;
     if (StabilePhase(s, T, l.p, z)) Schnitt(l, ach, z, l.p);
-  }
+    return true;
+  });
   l.Kopf(kopf::ZweiZweige);
 }
 
@@ -118,7 +119,7 @@ void HSSaettigung(Lauf& l, const Achsen& ach) {
 void SaettigungsFunktion(Lauf& l) {
   ProjectState& s = l.s;
   const Achsen ach = AchsenVon(l.a.Code);
-  const bool ueberP = ach.x == Koordinate::P;
+  const bool ueberP = ach.x == Groesse::p;
   const bool cpFilter = Waermekapazitaet(l.a.Code);
   const double faktor = ueberP ? l.PF() : l.TF();
   auto punkt = [&](double T) {
@@ -129,11 +130,11 @@ void SaettigungsFunktion(Lauf& l) {
   };
   const double kritisch = (ueberP ? s.Stoff.pKrit : s.Stoff.TKrit) * faktor;
   if (KritischerPunktDa(s) && kritisch >= l.a.Xmin && kritisch <= l.a.Xmax) punkt(s.Stoff.TKrit);
-  for (double x : Schritte(l.a.Xmax, l.a.Xmin, l.dx)) {
-    if (x >= kritisch) continue;
+  Schritte(l.a.Xmax, l.a.Xmin, -l.dx, 0.9, [&](double x) {
     double T = x / faktor;
-    if (!ueberP || SaettigungsTemperatur(s, x / faktor, T)) punkt(T);
-  }
+    if (x < kritisch && (!ueberP || SaettigungsTemperatur(s, x / faktor, T))) punkt(T);
+    return true;
+  });
   l.Kopf(kopf::MitParameter);
 }
 
