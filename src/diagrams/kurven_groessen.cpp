@@ -144,6 +144,10 @@ double Wert(const ProjectState& s, Groesse g, const Phasenzustand& z) {
   return NaN;
 }
 
+void PhasenPunkt(Lauf& l, const Achsen& ach, const Phasenzustand& z, double parameter) {
+  l.Punkt(Wert(l.s, ach.x, z), Wert(l.s, ach.y, z), parameter);
+}
+
 bool SaettigungsTemperatur(ProjectState& s, double p, double& T) {
   Koexistenz k;
   double start = 0;

@@ -52,6 +52,9 @@ double EnergieFaktorBeiT(const ProjectState& s, double T);
 // The value of quantity `g` of state `z` in displayed units; NaN when it is not available.
 double Wert(const ProjectState& s, Groesse g, const Phasenzustand& z);
 
+// Appends the point of state z on the axes `ach`, with the curve's parameter.
+void PhasenPunkt(Lauf& l, const Achsen& ach, const Phasenzustand& z, double parameter);
+
 // The line of vapour fraction x between the two saturated phases: zL + (zV - zL)*x.
 inline double Mischung(double zL, double zV, double x) {
   return zL + (zV - zL) * x;

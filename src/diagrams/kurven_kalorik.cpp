@@ -45,10 +45,6 @@ void KonnodeBeimUebergang(Lauf& l, Konnode& k, double x, bool fallend, double z)
   k.da = false;
 }
 
-void PunktDerPhase(Lauf& l, const Achsen& ach, const Phasenzustand& z, double parameter) {
-  l.Punkt(Wert(l.s, ach.x, z), Wert(l.s, ach.y, z), parameter);
-}
-
 } // namespace
 
 // u, h, s, g, a, eH, eU, cp, the residual functions and delta over T at p, T falling.
@@ -63,7 +59,7 @@ void FunktionUeberT(Lauf& l) {
     KonnodeBeimUebergang(l, k, x, true, l.p);
     const double T = x / l.TF();
     Phasenzustand z;
-    if (T > 0 && StabilePhase(l.s, T, l.p, z)) PunktDerPhase(l, ach, z, l.p);
+    if (T > 0 && StabilePhase(l.s, T, l.p, z)) PhasenPunkt(l, ach, z, l.p);
     return true;
   });
   l.Kopf(kopf::ZweiZweige);
@@ -79,7 +75,7 @@ void FunktionUeberP(Lauf& l) {
     KonnodeBeimUebergang(l, k, x, false, l.T);
     const double p = std::max(x / l.PF(), 0.01);
     Phasenzustand z;
-    if (StabilePhase(l.s, l.T, p, z)) PunktDerPhase(l, ach, z, l.T);
+    if (StabilePhase(l.s, l.T, p, z)) PhasenPunkt(l, ach, z, l.T);
     return true;
   });
   l.Kopf(kopf::MitParameter);
@@ -101,7 +97,7 @@ void FunktionUeberV(Lauf& l) {
     if (err != 0) return true;
     if (p < 0) p = 0.01;
     const int row = k.da ? (x <= k.X1 ? PhaseL : PhaseV) : ZeileVon(s, v);
-    PunktDerPhase(l, ach, PhaseBei(s, l.T, p, v, row), l.T);
+    PhasenPunkt(l, ach, PhaseBei(s, l.T, p, v, row), l.T);
     return true;
   });
   if (k.da) {
@@ -131,7 +127,7 @@ void IsochorFunktion(Lauf& l) {
     }
     int16_t err = 0;
     const double p = PzuTV(s, T, l.v, err);
-    if (err == 0) PunktDerPhase(l, ach, PhaseBei(s, T, p, l.v, ZeileVon(s, l.v)), l.v);
+    if (err == 0) PhasenPunkt(l, ach, PhaseBei(s, T, p, l.v, ZeileVon(s, l.v)), l.v);
     return true;
   });
   l.Kopf(kopf::ZweiZweige);

@@ -19,8 +19,21 @@ double KleinsterDruck(const ProjectState& s) {
   return std::max(0.01, KleinsterRelativerDruck * s.Stoff.pKrit);
 }
 
+// A point of a heat capacity is dropped where either phase's value is negative or beyond the
+// divergence at the critical point.
+bool Plausibel(const ProjectState& s, const Achsen& ach, const Phasenzustand& L, const Phasenzustand& V) {
+  if (ach.y != Groesse::Cp && ach.y != Groesse::Cv) return true;
+  const double grenze = GroessteWaermekapazitaet * EnergieFaktorBeiT(s, L.T);
+  for (const Phasenzustand* z : {&L, &V}) {
+    const double c = Wert(s, ach.y, *z);
+    if (!(c >= 0 && c <= grenze)) return false;
+  }
+  return true;
+}
+
 // The point of the line between the two saturated phases, the same vapour fraction on both axes.
 void MischPunkt(Lauf& l, const Achsen& ach, const Phasenzustand& L, const Phasenzustand& V) {
+  if (!Plausibel(l.s, ach, L, V)) return;
   const double x = l.s.Diagramm.Isohygre;
   l.Punkt(Mischung(Wert(l.s, ach.x, L), Wert(l.s, ach.x, V), x),
           Mischung(Wert(l.s, ach.y, L), Wert(l.s, ach.y, V), x), x);
@@ -37,25 +50,6 @@ bool KritischerPunktDa(const ProjectState& s) {
   return s.EOS.rhoKritEOS > 0 && s.Stoff.TKrit > 0;
 }
 
-bool Waermekapazitaet(int16_t c) {
-  return c == 72 || c == 88 || c == 92;
-}
-
-// Both phases' heat capacities finite and below the divergence at the critical point.
-bool WaermekapazitaetPlausibel(const ProjectState& s, const Achsen& ach, const Phasenzustand& L,
-                               const Phasenzustand& V) {
-  const double grenze = GroessteWaermekapazitaet * EnergieFaktorBeiT(s, L.T);
-  for (const Phasenzustand* z : {&L, &V}) {
-    const double c = Wert(s, ach.y, *z);
-    if (!(c >= 0 && c <= grenze)) return false;
-  }
-  return true;
-}
-
-void Schnitt(Lauf& l, const Achsen& ach, const Phasenzustand& z, double parameter) {
-  l.Punkt(Wert(l.s, ach.x, z), Wert(l.s, ach.y, z), parameter);
-}
-
 // The isotherm at T in two functions, p rising on a geometric scale; the tie line at p(LV).
 void HSIsotherme(Lauf& l, const Achsen& ach) {
   ProjectState& s = l.s;
@@ -63,12 +57,12 @@ void HSIsotherme(Lauf& l, const Achsen& ach) {
   bool konnode = !l.Virial() && l.T < s.Stoff.TKrit && Saettigung(s, l.T, L, V);
   for (double p : Geometrisch(KleinsterDruck(s), 10 * s.Stoff.pKrit, s.Optionen.PunktDichte)) {
     if (konnode && p >= L.p) {
-      Schnitt(l, ach, V, l.T);
-      Schnitt(l, ach, L, l.T);
+      PhasenPunkt(l, ach, V, l.T);
+      PhasenPunkt(l, ach, L, l.T);
       konnode = false;
     }
     Phasenzustand z;
-    if (StabilePhase(s, l.T, p, z)) Schnitt(l, ach, z, l.T);
+    if (StabilePhase(s, l.T, p, z)) PhasenPunkt(l, ach, z, l.T);
   }
   l.Kopf(kopf::MitParameter);
 }
@@ -85,12 +79,12 @@ void HSIsobare(Lauf& l, const Achsen& ach) {
   const double n = std::max<int16_t>(s.Optionen.PunktDichte, 1);
   Schritte(von, 3 * Tc, (3 * Tc - von) / n, 0.9, [&](double T) {
     if (konnode && T >= TLV) {
-      Schnitt(l, ach, L, l.p);
-      Schnitt(l, ach, V, l.p);
+      PhasenPunkt(l, ach, L, l.p);
+      PhasenPunkt(l, ach, V, l.p);
       konnode = false;
     }
     Phasenzustand z;
-    if (StabilePhase(s, T, l.p, z)) Schnitt(l, ach, z, l.p);
+    if (StabilePhase(s, T, l.p, z)) PhasenPunkt(l, ach, z, l.p);
     return true;
   });
   l.Kopf(kopf::ZweiZweige);
@@ -120,13 +114,11 @@ void SaettigungsFunktion(Lauf& l) {
   ProjectState& s = l.s;
   const Achsen ach = AchsenVon(l.a.Code);
   const bool ueberP = ach.x == Groesse::p;
-  const bool cpFilter = Waermekapazitaet(l.a.Code);
   const double faktor = ueberP ? l.PF() : l.TF();
   auto punkt = [&](double T) {
     if (T > s.Stoff.TKrit || (s.Optionen.KurveTpBeschraenkt && T < s.Stoff.TTripel)) return;
     Phasenzustand L, V;
-    if (Saettigung(s, T, L, V) && (!cpFilter || WaermekapazitaetPlausibel(s, ach, L, V)))
-      MischPunkt(l, ach, L, V);
+    if (Saettigung(s, T, L, V)) MischPunkt(l, ach, L, V);
   };
   const double kritisch = (ueberP ? s.Stoff.pKrit : s.Stoff.TKrit) * faktor;
   if (KritischerPunktDa(s) && kritisch >= l.a.Xmin && kritisch <= l.a.Xmax) punkt(s.Stoff.TKrit);
