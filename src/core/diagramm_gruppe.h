@@ -11,6 +11,7 @@ struct DiagrammGruppe {
   bool MitRealverhalten = false; // inside the two-phase region follow the tie line (true) or the S-loop
   double pSattVorgabe = 0;       // p(LV) at the request's T by the vapour-pressure equation
   double TSattVorgabe = 0;       // T(LV) at the request's p
+  bool KurveAbgebrochen = false; // the last isochor was cut short at the coexistence curve
 };
 
 } // namespace quor

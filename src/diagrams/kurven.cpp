@@ -138,7 +138,8 @@ void CalcCurve(ProjectState& s, ui::Oberflaeche& ui, const DiagrammAuftrag& a, i
   l.dx = (static_cast<double>(a.Xmax) - a.Xmin) / n;
   l.dy = (static_cast<double>(a.Ymax) - a.Ymin) / n;
   if (l.dx == 0 || l.dy == 0 || !std::isfinite(l.dx) || !std::isfinite(l.dy)) return;
-  if (a.Code == code::Anstieg && s.Modell.RechnungGlobal) {
+  s.Diagramm.KurveAbgebrochen = false;
+  if (a.Code == code::Anstieg && s.Modell.KonzeptGlobal) {
     ui.Meldung(AnstiegNurPartial, "Ausführung nicht möglich", ui::Symbol::Ausruf);
     return;
   }
@@ -156,6 +157,7 @@ void CalcCurve(ProjectState& s, ui::Oberflaeche& ui, const DiagrammAuftrag& a, i
     l.meldung = "mit diesen Eingabedaten kein Ergebnis erhalten";
   ergebnis = l.ergebnis;
   imBereich = l.imBereich;
+  s.Diagramm.KurveAbgebrochen = l.koexistenzErreicht;
   meldung = l.meldung;
   T = l.T;
   p = l.p;

@@ -21,6 +21,7 @@ public:
   int16_t ergebnis = kurve::Fertig;
   std::string meldung;
   bool imBereich = false;
+  bool koexistenzErreicht = false; // an isochor was cut where it meets the coexistence curve
 
   // Unit factors of the display.
   double VF() const { return s.Einheiten.VolumenFaktor; }
@@ -50,7 +51,7 @@ void IsothermePV(Lauf& l);        // 1
 void IsothermePvProdukt(Lauf& l); // 2, 26
 void IsobareTv(Lauf& l);          // 3, 4
 void IsochorePT(Lauf& l);         // 5
-// coexistence region (kurven_koexistenz.cpp)
+// coexistence region (kurven_koexistenz.cpp; vapour pressure and delta(LV)h in kurven_dampfdruck.cpp)
 void KoexistenzPV(Lauf& l);       // 6
 void KoexistenzUeberP(Lauf& l);   // 27, 106
 void KoexistenzTv(Lauf& l);       // 7, 12

@@ -199,7 +199,10 @@ void IsochorePT(Lauf& l) {
     int16_t err = 0;
     const double p = PzuTV(l.s, T, l.v, err);
     if (err != 0) return true;
-    if (vle && KoexistenzErreicht(l, k, p)) return false;
+    if (vle && KoexistenzErreicht(l, k, p)) {
+      l.koexistenzErreicht = true;
+      return false;
+    }
     if (p > 1e-6) l.Punkt(x, p * l.PF(), l.v);
     return true;
   });
