@@ -13,6 +13,11 @@ constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
 
 using G = Groesse;
 
+// Marks every value as not given by the engine.
+void Unbekannt(KalorischeWerte& w) {
+  w.h = w.u = w.s = w.g = w.a = w.cp = w.cv = w.cpIdG = w.eh = w.eu = w.w = NaN;
+}
+
 // The residual values are kept per R; the display shows them in kJ/kmol (or per unit of the mode).
 double Residual(const Phasenzustand& z, int spalte, double E) {
   return RGas * z.res[spalte] * E;
@@ -42,12 +47,11 @@ Phasenzustand PhaseBei(ProjectState& s, double T, double p, double v, int row) {
   z.T = T;
   z.p = p;
   z.v = v;
-  KalorischeWerte& w = z.w;
-  w.h = w.u = w.s = w.g = w.a = w.cp = w.cv = w.cpIdG = w.eh = w.eu = w.w = NaN;
+  Unbekannt(z.w);
   KalorikTabellen tab;
   tab.ResFunk[row].fill(NaN);
   int16_t err = 0;
-  ThermoFunktionen(s, T, p, v, row, tab, w, err);
+  ThermoFunktionen(s, T, p, v, row, tab, z.w, err);
   z.res = tab.ResFunk[row];
   return z;
 }
@@ -70,7 +74,7 @@ bool Saettigung(ProjectState& s, double T, Phasenzustand& L, Phasenzustand& V) {
     zeile.fill(NaN);
   SaettigungsWerte erg;
   for (KalorischeWerte& w : erg.phase)
-    w.h = w.u = w.s = w.g = w.a = w.cp = w.cv = w.cpIdG = w.eh = w.eu = w.w = NaN;
+    Unbekannt(w);
   int16_t err = 0;
   SaettigungsFunktionen(s, T, tab, erg, err);
   if (!(erg.p > 0) || !(erg.vL > 0) || !(erg.vV > 0)) return false;
