@@ -107,6 +107,13 @@ TEST(KalorischeKurven, EnthalpieIsobareUeberDasZweiphasengebietTraegtDieKonnodeB
   }
   EXPECT_GT(dampf, 30);
   EXPECT_GT(fluessig, 30);
+
+  // Per R*T the factor follows each point's own T, not the curve's.
+  s.Einheiten.EnergieMode = 2;
+  const Kurve proRT = Zeichne(s, code::HvonT, klasse::Isobare, 100, 300, -100, 100, 0, p);
+  ASSERT_EQ(proRT.n(), k.n());
+  for (std::size_t i = 1; i <= k.n(); i += 9)
+    EXPECT_REL(proRT[i].Y * RGas * proRT[i].X, k[i].Y, 1e-5) << "T = " << k[i].X;
 }
 
 TEST(KalorischeKurven, SiedeUndTaulinieKommenAusDemselbenZweigNachIsohygre) {
