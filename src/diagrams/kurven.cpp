@@ -1,6 +1,7 @@
 #include "diagrams/kurven_intern.h"
 
 #include "diagrams/diagramm_codes.h"
+#include "diagrams/kurven_groessen.h"
 #include "engine/eos_auswertung.h"
 #include "engine/korrelationen.h"
 #include "engine/virial.h"
@@ -20,16 +21,7 @@ Lauf::Lauf(ProjectState& s_, ui::Oberflaeche& ui_, const DiagrammAuftrag& a_, do
 }
 
 double Lauf::EFbeiT(double Tpunkt) const {
-  switch (s.Einheiten.EnergieMode) {
-  case 1:
-    return 1.0 / RGas;
-  case 2:
-    return Tpunkt > 0 ? 1.0 / (RGas * Tpunkt) : 1.0;
-  case 3:
-    return s.Stoff.MolMasse > 0 ? 1.0 / s.Stoff.MolMasse : 1.0;
-  default:
-    return 1.0;
-  }
+  return EnergieFaktorBeiT(s, Tpunkt);
 }
 
 void Lauf::Punkt(double x, double y, double z) {
