@@ -9,6 +9,7 @@
 #include "core/project_state.h"
 #include "diagrams/diagramm_auftrag.h"
 #include "diagrams/diagramm_bild.h"
+#include "diagrams/katalog.h"
 #include "dienste/oberflaeche.h"
 
 #include <array>
@@ -33,6 +34,7 @@ struct Graph2DKurve {
   double Breite = 1.5;
   PunktSymbol Symbol = PunktSymbol::Keines;
   bool ParameterBeschriften = false; // the parameter's value written at the curve's end
+  bool Konnode = false;              // a tie line: every point of it is a two-phase state
 };
 
 // Where a point set comes from.
@@ -72,6 +74,15 @@ struct MausInfo {
   std::string Koordinaten;   // "X = ..., Y = ..." in displayed units with the axis texts' units
   std::string Zustand;       // on a curve: "T = ... K, p = ... kPa, v = ... m^3/kmol (V)"; else empty
 };
+
+// The parameter of a curve of family `klasse` as it is written on the diagram: "T = 150.00 K",
+// "p = 1000.000 kPa", "v = 0.100000 m^3/kmol" (engine units); empty for the other families.
+std::string ParameterAngabe(int16_t klasse, double T, double p, double v);
+
+// The legend text of a curve of request `a` with its parameters (engine units); `konnode` for the
+// tie line of the state.
+std::string KurvenLegende(const ProjectState& s, const DiagrammAuftrag& a, double T, double p, double v,
+                          bool konnode);
 
 class frmQGraph2D {
 public:
@@ -132,7 +143,16 @@ public:
   // Marks of the insert menu (the marks' logic fills them).
   void MarkeSetzen(const Graph2DMarke& m); // replaces a mark of the same Art
   bool MarkeLoeschen(const std::string& art);
-  void MarkenLoeschen(); // every line mark and its label (mnuDelMarkTP, mnuDelMarkLabels)
+  void MarkenLoeschen(); // every line mark and its label (mnuDelMarkTP)
+  void MarkenTexteLoeschen(); // the labels of the marks only (mnuDelMarkLabels)
+
+  // The quantities on the axes as they are shown (exchanged when gekippt); Groesse::Anzahl for a
+  // diagram without a catalogue code.
+  Groesse AchseX() const;
+  Groesse AchseY() const;
+  // The diagram's request with the current axis ranges, oriented as the curve engine computes it
+  // (unswapped).
+  DiagrammAuftrag RechenAuftrag() const;
 
   // What the status line shows at a data coordinate; `pixelToleranz` in data units of X and Y for
   // the nearest curve point.
@@ -163,8 +183,12 @@ public:
 
 private:
   int FreierPlatz() const;
-  bool Ausgang(int16_t ergebnis, bool imBereich, const std::string& meldung, const Kurvenpunkte& k);
+  ZeichenErgebnis Ausgang(int16_t ergebnis, bool imBereich, const std::string& meldung, const Kurvenpunkte& k);
+  void Hinweise(const DiagrammAuftrag& a, const std::string& meldung, const Kurvenpunkte& k);
+  bool TeilsUnterTripelpunkt(const DiagrammAuftrag& a, const Kurvenpunkte& k) const;
   std::string Legende(const DiagrammAuftrag& a, double T, double p, double v, const Kurvenpunkte& k) const;
+  bool NaechsterPunkt(double x, double y, double tx, double ty, int& slot, std::size_t& index) const;
+  void Geaendert() { ++stand_; }
 
   ProjectState& s_;
   ui::Oberflaeche& ui_;
