@@ -152,9 +152,10 @@ bool Markierungen::mnuMarkKonnode() {
   const DiagrammAuftrag& a = d_.Auftrag();
   const EinheitenGruppe& e = s_.Einheiten;
   const bool isochor = a.Klasse == klasse::Isochore;
-  if ((a.Klasse == klasse::Isotherme || isochor) && e.TVorgabe >= s_.Stoff.TKrit)
+  // The page's T and p are single values: they are compared in single precision.
+  if ((a.Klasse == klasse::Isotherme || isochor) && e.TVorgabe >= static_cast<float>(s_.Stoff.TKrit))
     return Refuse("nur im Zweiphasengebiet V-L möglich (T < T(cr))");
-  if (a.Klasse == klasse::Isobare && e.pVorgabe >= s_.Stoff.pKrit)
+  if (a.Klasse == klasse::Isobare && e.pVorgabe >= static_cast<float>(s_.Stoff.pKrit))
     return Refuse("nur im Zweiphasengebiet V-L möglich (p < p(cr))");
   // The critical isochor as the curve engine knows it: within a thousandth of the critical volume.
   const double vc = s_.EOS.vKritEOS;
