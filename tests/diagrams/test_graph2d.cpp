@@ -104,6 +104,34 @@ TEST(Graph2D, CurvesThatAreNotKeptLeaveTheDiagramUnchanged) {
   EXPECT_EQ(d.g.KurvenAnzahl(), 0);
 }
 
+// The engine's result codes and the points below the triple point, each under its title.
+TEST(Graph2D, OutcomesOfTheEngineAreToldUnderTheirTitles) {
+  // Klasse 5 has no tie line of its own: the engine answers with result 4.
+  Seite t(code::KoexPv);
+  t.s.Diagramm.KonnodeModus = true;
+  EXPECT_EQ(t.g.cmdDraw(), ZeichenErgebnis::Fehler);
+  t.s.Diagramm.KonnodeModus = false;
+  EXPECT_EQ(t.Meldungen(), Texte{"Hinweis|Konnoden nur für T < T(cr), p < p(cr)\r\nund v <> v(cr) möglich."});
+
+  // A virial model has no critical density for the dome of both densities: result 3.
+  Seite v(code::KoexRhoT, 15);
+  EXPECT_EQ(v.g.cmdDraw(), ZeichenErgebnis::Fehler);
+  EXPECT_EQ(v.Meldungen(), Texte{"Ausführung nicht möglich|keine kritische Dichte verfügbar"});
+
+  // Without the triple-point limit the vapour-pressure curve reaches below it, with the warning.
+  Seite d(code::Dampfdruck);
+  d.s.Optionen.KurveTpBeschraenkt = false;
+  ASSERT_GT(d.s.Stoff.TTripel, 80);
+  ASSERT_TRUE(d.g.mnuCoord(60, 150, 0, 1000));
+  EXPECT_EQ(d.g.cmdDraw(), ZeichenErgebnis::Gezeichnet);
+  EXPECT_EQ(d.Meldungen(),
+            Texte{"WARNUNG|Es wurde teilweise bei T < T(Trip.P.) gerechnet! (Tripelpunkt)\r\n(=> Optionen)"});
+  d.ui.protokoll.clear();
+  ASSERT_TRUE(d.g.mnuCoord(100, 150, 0, 1000));
+  d.g.cmdDraw();
+  EXPECT_TRUE(d.Meldungen().empty());
+}
+
 // The number after `vor` in `text`.
 double ZahlNach(const std::string& text, const std::string& vor) {
   const std::size_t i = text.find(vor);
