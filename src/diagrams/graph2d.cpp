@@ -37,7 +37,8 @@ bool BereichGueltig(double a, double b) {
 
 // The points of a curve with X and Y exchanged; the head stays.
 void Tausche(Kurvenpunkte& k) {
-  for (std::size_t i = 1; i < k.size(); ++i) std::swap(k[i].X, k[i].Y);
+  for (std::size_t i = 1; i < k.size(); ++i)
+    std::swap(k[i].X, k[i].Y);
 }
 
 // An axis' quantity as the catalogue names it, the inversion curves' own ranges counted as the
@@ -191,7 +192,8 @@ ZeichenErgebnis frmQGraph2D::cmdDraw(const DiagrammAuftrag& auftrag, double T, d
                 ui::Symbol::Kritisch);
     return ZeichenErgebnis::Fehler;
   } catch (...) {
-    ui_.Meldung("Es ist ein kritischer Fehler aufgetreten:\r\nunbekannter Fehler", "ABBRUCH", ui::Symbol::Kritisch);
+    ui_.Meldung("Es ist ein kritischer Fehler aufgetreten:\r\nunbekannter Fehler", "ABBRUCH",
+                ui::Symbol::Kritisch);
     return ZeichenErgebnis::Fehler;
   }
   const ZeichenErgebnis aus = Ausgang(ergebnis, imBereich, meldung, k);
@@ -302,18 +304,20 @@ bool frmQGraph2D::mnuCoord(double xmin, double xmax, double ymin, double ymax) {
 bool frmQGraph2D::cmdChangeXY() {
   // Only the way into the swapped state is advised against; the way back needs no question.
   if (!gekippt_ &&
-      ui_.Frage("Es wird empfohlen, das Diagramm nicht im gekippten Zustand zu speichern.\r\nFortfahren?", "Hinweis",
-                ui::Knoepfe::JaNein, ui::Antwort::Ja) != ui::Antwort::Ja)
+      ui_.Frage("Es wird empfohlen, das Diagramm nicht im gekippten Zustand zu speichern.\r\nFortfahren?",
+                "Hinweis", ui::Knoepfe::JaNein, ui::Antwort::Ja) != ui::Antwort::Ja)
     return false;
   for (std::size_t i = 0; i < kurven_.size(); ++i)
     if (belegt_[i]) Tausche(kurven_[i].Punkte);
-  for (Graph2DPunktSatz& ps : punktSaetze_) std::swap(ps.X, ps.Y);
+  for (Graph2DPunktSatz& ps : punktSaetze_)
+    std::swap(ps.X, ps.Y);
   for (Graph2DMarke& m : marken_) {
     std::swap(m.Linie.X, m.Linie.Y);
     if (m.Text) std::swap(m.Text->X, m.Text->Y);
     if (m.Punkt) std::swap(m.Punkt->X, m.Punkt->Y);
   }
-  for (Beschriftung2D& b : texte_) std::swap(b.X, b.Y);
+  for (Beschriftung2D& b : texte_)
+    std::swap(b.X, b.Y);
   std::swap(xmin_, ymin_);
   std::swap(xmax_, ymax_);
   std::swap(einstellung_[0], einstellung_[2]);
@@ -349,7 +353,8 @@ void frmQGraph2D::mnuSubDelPointSet(int satz) {
 
 void frmQGraph2D::mnuDelLabels() {
   texte_.clear();
-  for (Graph2DKurve& k : kurven_) k.ParameterBeschriften = false;
+  for (Graph2DKurve& k : kurven_)
+    k.ParameterBeschriften = false;
   Geaendert();
 }
 
@@ -395,11 +400,12 @@ bool frmQGraph2D::cmdExternKurve(const std::vector<double>& X, const std::vector
   return true;
 }
 
-bool frmQGraph2D::cmdExternPoints(const std::vector<double>& X, const std::vector<double>& Y, PunktQuelle quelle,
-                                  const std::string& legende) {
+bool frmQGraph2D::cmdExternPoints(const std::vector<double>& X, const std::vector<double>& Y,
+                                  PunktQuelle quelle, const std::string& legende) {
   if (static_cast<int>(punktSaetze_.size()) >= MaxPunktSaetze) {
-    ui_.Meldung("Maximal " + std::to_string(MaxPunktSaetze) + " Punktsätze möglich\r\n"
-                "Löschen Sie vorhandene Punktsätze",
+    ui_.Meldung("Maximal " + std::to_string(MaxPunktSaetze) +
+                    " Punktsätze möglich\r\n"
+                    "Löschen Sie vorhandene Punktsätze",
                 TitelNichtMoeglich, ui::Symbol::Ausruf);
     return false;
   }
@@ -439,7 +445,8 @@ void frmQGraph2D::ParameterBeschriften(bool an) {
 }
 
 void frmQGraph2D::MarkeSetzen(const Graph2DMarke& m) {
-  auto it = std::find_if(marken_.begin(), marken_.end(), [&](const Graph2DMarke& n) { return n.Art == m.Art; });
+  auto it =
+      std::find_if(marken_.begin(), marken_.end(), [&](const Graph2DMarke& n) { return n.Art == m.Art; });
   if (it != marken_.end())
     *it = m;
   else
@@ -456,13 +463,15 @@ bool frmQGraph2D::MarkeLoeschen(const std::string& art) {
 }
 
 void frmQGraph2D::MarkenLoeschen() {
-  marken_.erase(std::remove_if(marken_.begin(), marken_.end(), [](const Graph2DMarke& m) { return !m.Linie.X.empty(); }),
+  marken_.erase(std::remove_if(marken_.begin(), marken_.end(),
+                               [](const Graph2DMarke& m) { return !m.Linie.X.empty(); }),
                 marken_.end());
   Geaendert();
 }
 
 void frmQGraph2D::MarkenTexteLoeschen() {
-  for (Graph2DMarke& m : marken_) m.Text.reset();
+  for (Graph2DMarke& m : marken_)
+    m.Text.reset();
   Geaendert();
 }
 

@@ -62,17 +62,19 @@ struct Graph2DMarke {
 
 // The outcome of cmdDraw.
 enum class ZeichenErgebnis {
-  Gezeichnet,    // the curve stands in its slot
-  KeinPlatz,     // all 24 slots in use
-  Ausserhalb,    // no point inside the axes: the diagram is unchanged
-  Fehler,        // a result code of the curve engine or a fault: nothing drawn
-  KeinePunkte    // the curve has no point
+  Gezeichnet, // the curve stands in its slot
+  KeinPlatz,  // all 24 slots in use
+  Ausserhalb, // no point inside the axes: the diagram is unchanged
+  Fehler,     // a result code of the curve engine or a fault: nothing drawn
+  KeinePunkte // the curve has no point
 };
 
 // What the status line says for a mouse position in data coordinates.
 struct MausInfo {
-  std::string Koordinaten;   // "X = ..., Y = ..." in displayed units with the axis texts' units
-  std::string Zustand;       // on a curve: "T = ... K, p = ... kPa, v = ... m^3/kmol (V)"; else empty
+  std::string Koordinaten; // "X = ..., Y = ..." in displayed units with the axis texts' units
+  // On a curve: its parameter and what its point's coordinates give of T, p, v ("T = 250 K, p = ... kPa,
+  // v = ... m^3/kmol", with " (V-L)" on a tie line); else empty.
+  std::string Zustand;
 };
 
 // The parameter of a curve of family `klasse` as it is written on the diagram: "T = 150.00 K",
@@ -143,7 +145,7 @@ public:
   // Marks of the insert menu (the marks' logic fills them).
   void MarkeSetzen(const Graph2DMarke& m); // replaces a mark of the same Art
   bool MarkeLoeschen(const std::string& art);
-  void MarkenLoeschen(); // every line mark and its label (mnuDelMarkTP)
+  void MarkenLoeschen();      // every line mark and its label (mnuDelMarkTP)
   void MarkenTexteLoeschen(); // the labels of the marks only (mnuDelMarkLabels)
 
   // The quantities on the axes as they are shown (exchanged when gekippt); Groesse::Anzahl for a
@@ -183,7 +185,8 @@ public:
 
 private:
   int FreierPlatz() const;
-  ZeichenErgebnis Ausgang(int16_t ergebnis, bool imBereich, const std::string& meldung, const Kurvenpunkte& k);
+  ZeichenErgebnis Ausgang(int16_t ergebnis, bool imBereich, const std::string& meldung,
+                          const Kurvenpunkte& k);
   void Hinweise(const DiagrammAuftrag& a, const std::string& meldung, const Kurvenpunkte& k);
   bool TeilsUnterTripelpunkt(const DiagrammAuftrag& a, const Kurvenpunkte& k) const;
   std::string Legende(const DiagrammAuftrag& a, double T, double p, double v, const Kurvenpunkte& k) const;

@@ -111,7 +111,8 @@ Diagramm2D frmQGraph2D::Bild() const {
 
 // The point nearest to (x, y) among the curves, measured in units of the tolerances; none beyond
 // them.
-bool frmQGraph2D::NaechsterPunkt(double x, double y, double tx, double ty, int& slot, std::size_t& index) const {
+bool frmQGraph2D::NaechsterPunkt(double x, double y, double tx, double ty, int& slot,
+                                 std::size_t& index) const {
   if (!(tx > 0) || !(ty > 0) || !std::isfinite(x) || !std::isfinite(y)) return false;
   double best = 2; // squared distance; within the tolerance box only
   slot = -1;

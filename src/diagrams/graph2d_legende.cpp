@@ -31,7 +31,8 @@ std::string DampfdruckText(const ProjectState& s) {
   if (i >= 0 && i < static_cast<int>(s.Tab.DampfdruckNamen.size()))
     text = Zeile(s.Tab.DampfdruckNamen[static_cast<std::size_t>(i)]);
   if (i == AugustKorreliert)
-    text += "; AUGUST-Par: A = " + SingleText(s.Stoff.AugustA) + ", B = " + SingleText(s.Stoff.AugustB) + " K";
+    text +=
+        "; AUGUST-Par: A = " + SingleText(s.Stoff.AugustA) + ", B = " + SingleText(s.Stoff.AugustB) + " K";
   return text;
 }
 
@@ -113,7 +114,8 @@ std::string KurvenLegende(const ProjectState& s, const DiagrammAuftrag& a, doubl
   case klasse::Koexistenz:
     return KoexistenzLegende(s, a);
   case klasse::Inversion:
-    return " p-T-Inversionskurve Joule-Thomson-Effekt, " + EOSText(s) + " (entsprechend Einstellung \"Modelle\")";
+    return " p-T-Inversionskurve Joule-Thomson-Effekt, " + EOSText(s) +
+           " (entsprechend Einstellung \"Modelle\")";
   default:
     return a.Titel;
   }

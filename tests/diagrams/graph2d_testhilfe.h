@@ -38,7 +38,8 @@ struct Seite {
   // The messages' texts with their titles, "titel|text".
   std::vector<std::string> Meldungen() const {
     std::vector<std::string> m;
-    for (const ui::Aufzeichnung& a : ui.Meldungen()) m.push_back(a.titel + "|" + a.text);
+    for (const ui::Aufzeichnung& a : ui.Meldungen())
+      m.push_back(a.titel + "|" + a.text);
     return m;
   }
 };

@@ -1,7 +1,7 @@
 // The 2D diagram page: its slots, the draw routine's outcomes and messages, the legend texts, zoom,
 // swapped axes, the parameter input, curves and points of other dialogs, and what the page shows.
-#include "diagrams/graph2d_testhilfe.h"
 #include "core/zahlformat.h"
+#include "diagrams/graph2d_testhilfe.h"
 #include "diagrams/kurven.h"
 
 #include <gtest/gtest.h>
@@ -40,7 +40,8 @@ TEST(Graph2D, TwentyFourCurvesFillTheSlotsAndTheTwentyFifthIsRefused) {
   }
 
   EXPECT_EQ(t.Isotherme(300), ZeichenErgebnis::KeinPlatz);
-  EXPECT_EQ(t.Meldungen(), Texte{"Ausführung nicht möglich|Maximal 24 Kurven möglich\r\nLöschen Sie vorhandene Kurven"});
+  EXPECT_EQ(t.Meldungen(),
+            Texte{"Ausführung nicht möglich|Maximal 24 Kurven möglich\r\nLöschen Sie vorhandene Kurven"});
   EXPECT_EQ(t.g.KurvenAnzahl(), MaxKurven);
 
   // A deleted slot is free again and the next curve takes it.
@@ -81,7 +82,8 @@ TEST(Graph2D, TheIsochorAdviceComesOnceAndACutIsochorIsKeptWithItsWarning) {
   t.g.cmdDraw();
   t.Oeffne(code::pT);
   t.g.cmdDraw();
-  for (const std::string& m : t.Meldungen()) EXPECT_EQ(m.rfind("einmaliger Hinweis|", 0), std::string::npos);
+  for (const std::string& m : t.Meldungen())
+    EXPECT_EQ(m.rfind("einmaliger Hinweis|", 0), std::string::npos);
 }
 
 TEST(Graph2D, CurvesThatAreNotKeptLeaveTheDiagramUnchanged) {
@@ -141,8 +143,9 @@ double ZahlNach(const std::string& text, const std::string& vor) {
 TEST(Graph2D, LegendsOfTheVapourPressureCurveFollowTheConcept) {
   Seite t(code::Dampfdruck);
   ASSERT_EQ(t.g.cmdDraw(), ZeichenErgebnis::Gezeichnet);
-  EXPECT_EQ(t.g.Kurve(0).Legende,
-            "p(LV) berechnet aus CEOS Peng / Robinson (entsprechend Einstellung \"Modelle\"), GLOBAL-Konzept");
+  EXPECT_EQ(
+      t.g.Kurve(0).Legende,
+      "p(LV) berechnet aus CEOS Peng / Robinson (entsprechend Einstellung \"Modelle\"), GLOBAL-Konzept");
 
   // PARTIAL with the correlated August equation names its constants: B = Tb*Tc*ln(pc/101.325)/(Tb-Tc),
   // A = ln(pc) - B/Tc from the substance's constants.
@@ -150,7 +153,8 @@ TEST(Graph2D, LegendsOfTheVapourPressureCurveFollowTheConcept) {
   t.s.Modell.DampfdruckIndex = AugustKorreliert;
   ASSERT_EQ(t.g.cmdDraw(), ZeichenErgebnis::Gezeichnet);
   const std::string& l = t.g.Kurve(1).Legende;
-  const std::string kopf = "p(LV) entsprechend EVP-Einstellung \"Modelle\" August (korreliert); AUGUST-Par: A = ";
+  const std::string kopf =
+      "p(LV) entsprechend EVP-Einstellung \"Modelle\" August (korreliert); AUGUST-Par: A = ";
   EXPECT_EQ(l.rfind(kopf, 0), 0u) << l;
   const std::string ende = " K, PARTIAL-Konzept";
   ASSERT_GT(l.size(), ende.size());
@@ -175,7 +179,8 @@ TEST(Graph2D, LegendsOfTheCoexistenceProjectionsAndTheTieLine) {
   DiagrammAuftrag a;
   a.Klasse = klasse::Koexistenz;
   a.Code = code::KoexTv;
-  EXPECT_EQ(KurvenLegende(t.s, a, 0, 0, 0, false), "T-V-Projektion (Koexistenzkurve V - L); CEOS Peng / Robinson");
+  EXPECT_EQ(KurvenLegende(t.s, a, 0, 0, 0, false),
+            "T-V-Projektion (Koexistenzkurve V - L); CEOS Peng / Robinson");
   a.Code = code::KoexRhoT;
   EXPECT_EQ(KurvenLegende(t.s, a, 0, 0, 0, false),
             "Dichten rho(L), rho(V) = Fu(T), Mathias-Cailletet-Kurve aus CEOS Peng / Robinson");
@@ -183,8 +188,8 @@ TEST(Graph2D, LegendsOfTheCoexistenceProjectionsAndTheTieLine) {
   EXPECT_EQ(KurvenLegende(t.s, a, 0, 0, 0, false), "delta(LV)H = Fu(T): aus kub.-EOS (GLOBAL-Berechnung)");
   a.Klasse = klasse::Inversion;
   a.Code = code::InversionPT;
-  EXPECT_EQ(KurvenLegende(t.s, a, 0, 0, 0, false),
-            " p-T-Inversionskurve Joule-Thomson-Effekt, CEOS Peng / Robinson (entsprechend Einstellung \"Modelle\")");
+  EXPECT_EQ(KurvenLegende(t.s, a, 0, 0, 0, false), " p-T-Inversionskurve Joule-Thomson-Effekt, CEOS Peng / "
+                                                   "Robinson (entsprechend Einstellung \"Modelle\")");
   a.Klasse = klasse::Isobare;
   a.Code = code::Tv;
   EXPECT_EQ(KurvenLegende(t.s, a, 0, 2000, 0, true), "(V-L) p = 2000.000 kPa.");
@@ -260,7 +265,8 @@ TEST(Graph2D, TheParameterIsEnteredInDisplayedUnits) {
   EXPECT_FALSE(t.g.ParameterEingabe("-3"));
   EXPECT_FLOAT_EQ(t.s.Einheiten.TVorgabe, 150.5f);
   ASSERT_EQ(t.Meldungen().size(), 2u);
-  EXPECT_EQ(t.Meldungen()[0], "Hinweis|Ungültige Eingabe: \"150 K\"\r\nBitte geben Sie eine positive Zahl ein.");
+  EXPECT_EQ(t.Meldungen()[0],
+            "Hinweis|Ungültige Eingabe: \"150 K\"\r\nBitte geben Sie eine positive Zahl ein.");
 
   // Reduced: T / T(cr); specific volumes per kg.
   t.s.Einheiten.VolumenMode = 2;

@@ -58,7 +58,8 @@ TEST(Markierungen, CurvesOfTheInsertMenuAreDrawnOnTheSameAxes) {
   EXPECT_EQ(t.ui.Letzte().text, "Der Dampfanteil x muss zwischen 0 und 1 liegen.");
   t.ui.eingaben.push_back("0,5");
   ASSERT_TRUE(t.m.mnuMarkIsohygre());
-  EXPECT_EQ(t.g.Kurve(2).Legende, "T-V-Projektion (Koexistenzkurve V - L); CEOS Peng / Robinson, x(V) = 0.500");
+  EXPECT_EQ(t.g.Kurve(2).Legende,
+            "T-V-Projektion (Koexistenzkurve V - L); CEOS Peng / Robinson, x(V) = 0.500");
   EXPECT_EQ(t.s.Diagramm.Isohygre, 0); // the fraction was the line's only
   // The middle line halves the volumes of the saturated phases at each of its temperatures.
   const Kurvenpunkte& mitte = t.g.Kurve(2).Punkte;
@@ -86,11 +87,12 @@ TEST(Markierungen, AVirialModelRefusesTheCurvesOfTheTwoPhaseRegion) {
   EXPECT_FALSE(t.m.mnuMarkSKurve());
   EXPECT_FALSE(t.m.mnuMarkKonnode());
   EXPECT_FALSE(t.m.mnuMarkB());
-  EXPECT_EQ(t.Meldungen(), (Texte{std::string(NichtMoeglich) + "Isohygren nur für kubische EOS möglich.",
-                                  std::string(NichtMoeglich) + "Inversionskurve nur mit kubischer EOS möglich.",
-                                  std::string(NichtMoeglich) + "S-Kurve nur für kubische EOS möglich.",
-                                  std::string(NichtMoeglich) + "Konnode V-L nur für kubische EOS möglich",
-                                  std::string(NichtMoeglich) + "Kovolumen b nur für kubische EOS möglich."}));
+  EXPECT_EQ(t.Meldungen(),
+            (Texte{std::string(NichtMoeglich) + "Isohygren nur für kubische EOS möglich.",
+                   std::string(NichtMoeglich) + "Inversionskurve nur mit kubischer EOS möglich.",
+                   std::string(NichtMoeglich) + "S-Kurve nur für kubische EOS möglich.",
+                   std::string(NichtMoeglich) + "Konnode V-L nur für kubische EOS möglich",
+                   std::string(NichtMoeglich) + "Kovolumen b nur für kubische EOS möglich."}));
   EXPECT_EQ(t.g.Stand(), stand);
   EXPECT_FALSE(t.s.Optionen.SKurveOhneKonnode);
 }
@@ -107,9 +109,12 @@ TEST(Markierungen, TheTieLineIsRefusedOutsideTheTwoPhaseRegion) {
   chor.s.Einheiten.vVorgabe = static_cast<float>(chor.s.EOS.vKritEOS);
   chor.s.Einheiten.TVorgabe = 150;
   EXPECT_FALSE(chor.m.mnuMarkKonnode());
-  EXPECT_EQ(iso.Meldungen(), Texte{std::string(NichtMoeglich) + "nur im Zweiphasengebiet V-L möglich (T < T(cr))"});
-  EXPECT_EQ(bar.Meldungen(), Texte{std::string(NichtMoeglich) + "nur im Zweiphasengebiet V-L möglich (p < p(cr))"});
-  EXPECT_EQ(chor.Meldungen(), Texte{std::string(NichtMoeglich) + "nur im Zweiphasengebiet V-L möglich (v <> v(cr))"});
+  EXPECT_EQ(iso.Meldungen(),
+            Texte{std::string(NichtMoeglich) + "nur im Zweiphasengebiet V-L möglich (T < T(cr))"});
+  EXPECT_EQ(bar.Meldungen(),
+            Texte{std::string(NichtMoeglich) + "nur im Zweiphasengebiet V-L möglich (p < p(cr))"});
+  EXPECT_EQ(chor.Meldungen(),
+            Texte{std::string(NichtMoeglich) + "nur im Zweiphasengebiet V-L möglich (v <> v(cr))"});
   EXPECT_EQ(iso.g.KurvenAnzahl() + bar.g.KurvenAnzahl() + chor.g.KurvenAnzahl(), 0);
   EXPECT_FALSE(chor.s.Diagramm.KonnodeModus);
 }
@@ -123,7 +128,8 @@ TEST(Markierungen, MarksThatDoNotFitTheAxesAreRefused) {
   EXPECT_FALSE(t.m.mnuMarkP(1));
   EXPECT_FALSE(t.m.mnuMarkCritPointEx());
   EXPECT_TRUE(t.m.mnuMarkT(1)); // T is the X axis here
-  const std::string passt = std::string(NichtMoeglich) + "Diese Markierung passt nicht zu den Achsen des Diagramms.";
+  const std::string passt =
+      std::string(NichtMoeglich) + "Diese Markierung passt nicht zu den Achsen des Diagramms.";
   EXPECT_EQ(t.Meldungen(), (Texte{passt, passt, passt, passt}));
   EXPECT_EQ(t.g.KurvenAnzahl(), 0);
   EXPECT_EQ(t.g.Marken().size(), 1u);
