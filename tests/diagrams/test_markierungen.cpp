@@ -76,6 +76,24 @@ TEST(Markierungen, CurvesOfTheInsertMenuAreDrawnOnTheSameAxes) {
   EXPECT_EQ(Anzahl(t.g.Kurve(3).Punkte), 51u);
 }
 
+// The S-loop: the isotherm's T goes to two decimals, and the curve runs through the two-phase
+// region where the plain isotherm jumps along its tie line.
+TEST(Markierungen, TheSLoopRunsThroughTheTwoPhaseRegion) {
+  Menue t(code::pv);
+  t.s.Einheiten.TVorgabe = 150.004f;
+  ASSERT_TRUE(t.m.mnuMarkSKurve());
+  EXPECT_FLOAT_EQ(t.s.Einheiten.TVorgabe, 150.0f);
+  EXPECT_TRUE(t.s.Optionen.SKurveOhneKonnode);
+  test::DruckLV(t.s, 150);
+  const double vL = t.s.EOS.VRoots[0], vV = t.s.EOS.VRoots[2];
+  std::size_t innen = 0;
+  for (std::size_t i = 1; i < t.g.Kurve(0).Punkte.size(); ++i) {
+    const double v = t.g.Kurve(0).Punkte[i].X;
+    innen += v > 1.01 * vL && v < 0.99 * vV;
+  }
+  EXPECT_GT(innen, 3u);
+}
+
 // Without a cubic EOS the curves of the two-phase region and the covolume are refused and nothing
 // changes.
 TEST(Markierungen, AVirialModelRefusesTheCurvesOfTheTwoPhaseRegion) {
