@@ -2,6 +2,8 @@
 // (the coexistence curve and ten isotherms from 0.7 to 1.2 T(cr)), the vapour-pressure curve over T by
 // the EOS, and the enthalpy isobar at 1000 kPa through the two-phase region.
 #include "diagrams/diagramm_codes.h"
+#include "diagrams/graph2d.h"
+#include "diagrams/katalog.h"
 #include "diagrams/kurven.h"
 
 #include "bench_stoffe.h"
@@ -71,5 +73,24 @@ void BM_EnthalpieIsobarePropan(benchmark::State& state) {
   state.counters["Punkte"] = static_cast<double>(n);
 }
 BENCHMARK(BM_EnthalpieIsobarePropan)->Unit(benchmark::kMicrosecond);
+
+
+// A menu entry to its first drawn curve: the catalogue prepares the request of the p-v projection
+// (texts, standard ranges from the model), a new page takes it and draws the coexistence curve.
+void BM_MenueBisKoexistenzkurve(benchmark::State& state) {
+  ProjectState s = bench::PengRobinsonPropan();
+  ui::SkriptOberflaeche ui;
+  for (auto _ : state) {
+    DiagrammAuftrag a;
+    a.Code = code::KoexPv;
+    const Graf2DErgebnis e = Graf2D_Zentrale(s, ui, a, false);
+    frmQGraph2D seite(s, ui);
+    seite.Neu(a);
+    const ZeichenErgebnis z = seite.cmdDraw();
+    benchmark::DoNotOptimize(z);
+    benchmark::DoNotOptimize(e);
+  }
+}
+BENCHMARK(BM_MenueBisKoexistenzkurve)->Unit(benchmark::kMillisecond);
 
 } // namespace
