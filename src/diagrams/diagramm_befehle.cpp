@@ -2,9 +2,12 @@
 
 #include "calc/rechen_befehle.h"
 #include "diagrams/diagramm3d_art.h"
+#include "diagrams/diagramm_codes.h"
+#include "diagrams/markierungen.h"
 #include "dienste/oberflaeche.h"
 #include "engine/eos_zeilen.h"
 
+#include <map>
 #include <vector>
 
 namespace quor {
@@ -138,6 +141,62 @@ const std::vector<MenuePosten> Posten = {
 };
 // clang-format on
 
+// The insert menu of the open diagram.
+// clang-format off
+const std::vector<MenuePosten> Einfuegen = {
+    {"mnuInsert", -1, "Einfügen in das 2D-Diagramm", "mnu2D", -1},
+    {"mnuMarkKoex", -1, "Koexistenzkurve V - L", "mnuInsert", -1},
+    {"mnuMarkIsohygre", -1, "Isohygre (konstanter Dampfanteil x) ...", "mnuInsert", -1},
+    {"mnuMarkInversion", -1, "Inversionskurve (Joule-Thomson-Effekt)", "mnuInsert", -1},
+    {"mnuMarkSKurve", -1, "S-Kurve (Isotherme, Isobare mit Schleife)", "mnuInsert", -1},
+    {"mnuMarkKonnode", -1, "Konnode V - L", "mnuInsert", -1},
+    {"mnuMarkHalbierende", -1, "Mathias-Cailletet-Halbierende", "mnuInsert", -1},
+    {"", -1, "-", "mnuInsert", -1},
+    {"mnuMarkWert", 0, "Temperatur-Markierung", "mnuInsert", -1},
+    {"mnuMarkT", 0, "T (Eingabe) ...", "mnuMarkWert", 0},
+    {"mnuMarkT", 1, "T(cr)", "mnuMarkWert", 0},
+    {"mnuMarkT", 2, "T(Trip.P.)", "mnuMarkWert", 0},
+    {"mnuMarkT", 3, "T(LV) bei p", "mnuMarkWert", 0},
+    {"mnuMarkT", 4, "T(LV) bei Normaldruck", "mnuMarkWert", 0},
+    {"mnuMarkWert", 1, "Druck-Markierung", "mnuInsert", -1},
+    {"mnuMarkP", 0, "p (Eingabe) ...", "mnuMarkWert", 1},
+    {"mnuMarkP", 1, "p(cr)", "mnuMarkWert", 1},
+    {"mnuMarkP", 2, "p(LV) bei T", "mnuMarkWert", 1},
+    {"mnuMarkP", 3, "p(SLV) (Tripelpunkt)", "mnuMarkWert", 1},
+    {"mnuMarkWert", 2, "Volumen-Markierung", "mnuInsert", -1},
+    {"mnuMarkV", 0, "v (Eingabe) ...", "mnuMarkWert", 2},
+    {"mnuMarkV", 1, "v(crit)", "mnuMarkWert", 2},
+    {"mnuMarkB", -1, "Kovolumen v = b", "mnuInsert", -1},
+    {"", -1, "-", "mnuInsert", -1},
+    {"mnuMarkCritPointEx", -1, "kritischer Punkt (exp.)", "mnuInsert", -1},
+    {"mnuMarkCritPointCalc", -1, "kritischer Punkt (EOS)", "mnuInsert", -1},
+    {"mnuDelCritPointEx", -1, "kritischen Punkt (exp.) entfernen", "mnuInsert", -1},
+    {"mnuDelCritPointCalc", -1, "kritischen Punkt (EOS) entfernen", "mnuInsert", -1},
+    {"", -1, "-", "mnuInsert", -1},
+    {"mnuDelMarkTP", -1, "Markierungen T, p, v entfernen", "mnuInsert", -1},
+    {"mnuDelMarkLabels", -1, "Beschriftungen der Markierungen entfernen", "mnuInsert", -1},
+};
+// clang-format on
+
+// The codes of the 2D entries by the catalogue: per submenu the code of each entry's index, 0 for a
+// separator or a submenu.
+// clang-format off
+const std::map<std::string, std::vector<int16_t>> Codes = {
+    {"mnuGraf_sub_cut", {0, 1, 26, 2, 0, 3, 4, 0, 5}},
+    {"mnuGraf_sub_FuT", {0, 34, 0, 19, 14, 15, 16, 17, 25, 20, 18, 0, 185, 184, 183, 182, 181, 180}},
+    {"mnuGraf_sub_Fup", {154, 149, 150, 151, 152, 148, 155, 153}},
+    {"mnuGraf_sub_FuV", {0, 158, 157, 156, 160, 159}},
+    {"mnuGraf_sub_res_FuT", {0, 31, 30, 32, 33}},
+    {"mnuGraf_sub_res_Fup", {0, 41, 40, 42, 43}},
+    {"mnuGraf_sub_HS", {0, 107, 24}},
+    {"mnuGraf_sub_ES", {0, 109, 23}},
+    {"mnuGraf_sub_EH", {0, 21, 22}},
+    {"mnuGraf_sub_proj", {6, 106, 27, 12, 8, 7, 0, 9, 10, 11, 0, 13, 0, 90, 91, 93, 94, 92}},
+    {"mnuGraf_sub_database", {300, 310, 301, 302, 311, 303, 304, 305, 0, 0}},
+    {"mnuGraf_sub_sub_database", {306, 307, 308, 309, 0, 312, 313, 314, 315}},
+};
+// clang-format on
+
 bool Kubisch(const ProjectState& s) {
   return eos::KubischGewaehlt(s.Modell);
 }
@@ -194,7 +253,69 @@ void RegistriereDiagrammBefehle(BefehlsRegister& r) {
     if ((name == "mnuGraf_sub_database" || name == "mnuGraf_sub_sub_database") && p.index >= 0)
       z.verfuegbar = [name, index = p.index](const ProjectState& s) { return FunktionDa(s, name, index); };
     r.Registriere(std::move(z));
+    if (name == "mnuInversionsKurve")
+      for (const MenuePosten& e : Einfuegen)
+        r.Registriere(ZeileVon(e, 0, BrauchtDiagramme | BrauchtKritischenPunkt));
   }
+}
+
+const std::vector<MenuePosten>& EinfuegePosten() {
+  return Einfuegen;
+}
+
+void EinfuegeHandlerSetzen(BefehlsRegister& r, const std::function<bool()>& seiteOffen,
+                           const std::function<void(const std::string&, int)>& start) {
+  for (const MenuePosten& p : Einfuegen) {
+    const BefehlsZeile* alt = p.name[0] ? r.Finde(p.name, p.index) : nullptr;
+    if (!alt) continue;
+    BefehlsZeile z = *alt;
+    z.verfuegbar = [seiteOffen](const ProjectState&) { return seiteOffen(); };
+    r.Registriere(std::move(z));
+    if (!r.IstMenue(p.name, p.index))
+      r.Handler(p.name, p.index, [start, name = std::string(p.name)](int index) { start(name, index); });
+  }
+}
+
+bool MarkierungAusfuehren(Markierungen& m, const std::string& name, int index) {
+  if (name == "mnuMarkT") return m.mnuMarkT(index);
+  if (name == "mnuMarkP") return m.mnuMarkP(index);
+  if (name == "mnuMarkV") return m.mnuMarkV(index);
+  using Eintrag = bool (Markierungen::*)();
+  static const std::map<std::string, Eintrag> kurven = {
+      {"mnuMarkKoex", &Markierungen::mnuMarkKoex},
+      {"mnuMarkIsohygre", &Markierungen::mnuMarkIsohygre},
+      {"mnuMarkInversion", &Markierungen::mnuMarkInversion},
+      {"mnuMarkSKurve", &Markierungen::mnuMarkSKurve},
+      {"mnuMarkKonnode", &Markierungen::mnuMarkKonnode},
+      {"mnuMarkHalbierende", &Markierungen::mnuMarkHalbierende},
+      {"mnuMarkB", &Markierungen::mnuMarkB},
+      {"mnuMarkCritPointEx", &Markierungen::mnuMarkCritPointEx},
+      {"mnuMarkCritPointCalc", &Markierungen::mnuMarkCritPointCalc}};
+  if (const auto it = kurven.find(name); it != kurven.end()) return (m.*(it->second))();
+  using Loeschen = void (Markierungen::*)();
+  static const std::map<std::string, Loeschen> loeschen = {
+      {"mnuDelCritPointEx", &Markierungen::mnuDelCritPointEx},
+      {"mnuDelCritPointCalc", &Markierungen::mnuDelCritPointCalc},
+      {"mnuDelMarkTP", &Markierungen::mnuDelMarkTP},
+      {"mnuDelMarkLabels", &Markierungen::mnuDelMarkLabels}};
+  if (const auto it = loeschen.find(name); it != loeschen.end()) {
+    (m.*(it->second))();
+    return true;
+  }
+  return false;
+}
+
+int16_t CodeVonMenue(const std::string& name, int index) {
+  if (name == "mnuInversionsKurve") return code::InversionPT;
+  const auto zeile = Codes.find(name);
+  if (zeile == Codes.end() || index < 0 || index >= static_cast<int>(zeile->second.size())) return 0;
+  return zeile->second[static_cast<std::size_t>(index)];
+}
+
+void DiagrammHandlerSetzen(BefehlsRegister& r, const std::function<void(const std::string&, int)>& start) {
+  for (const MenuePosten& p : Posten)
+    if (CodeVonMenue(p.name, p.index) != 0)
+      r.Handler(p.name, p.index, [start, name = std::string(p.name)](int index) { start(name, index); });
 }
 
 bool GrafErlaubt(const ProjectState& s, ui::Oberflaeche& ui, const std::string& name, int index) {

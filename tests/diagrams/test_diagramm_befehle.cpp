@@ -1,9 +1,14 @@
 // The diagram entries of the menus: what they need before the diagrams are built, and their own
 // refusals with the messages the user reads.
 #include "diagrams/diagramm_befehle.h"
+#include "diagrams/diagramm_codes.h"
+#include "diagrams/katalog.h"
 #include "dienste/skript_oberflaeche.h"
 
 #include <gtest/gtest.h>
+
+#include <set>
+#include <string>
 
 namespace quor {
 namespace {
@@ -22,7 +27,7 @@ struct Eintraege {
   }
 };
 
-TEST(DiagrammBefehle, NothingIsBuiltYetButTheMenusOpenWithTheirNeeds) {
+TEST(DiagrammBefehle, MenusOpenWithTheirNeeds) {
   Eintraege r;
   BefehlsRegister b;
   RegistriereDiagrammBefehle(b);
@@ -77,6 +82,60 @@ TEST(DiagrammBefehle, FunctionDiagramsNeedTheirHeatCapacityEquations) {
   r.s.Stoff.CpSinhOK = false;
   EXPECT_FALSE(GrafErlaubt(r.s, r.ui, "mnuGraf_sub_database", 4));
   EXPECT_EQ(r.ui.Letzte().text, "für diesen Stoff ist keine sinh/cosh-Funktion cpIdG)= Fu(T) verfügbar.");
+}
+
+// Every 2D entry draws a code the catalogue knows; separators and submenus draw none.
+TEST(DiagrammBefehle, EveryTwoDimensionalEntryHasACodeOfTheCatalogue) {
+  BefehlsRegister b;
+  RegistriereDiagrammBefehle(b);
+  std::set<std::string> einfuegen;
+  for (const MenuePosten& p : EinfuegePosten())
+    einfuegen.insert(p.name);
+  int eintraege = 0;
+  for (const BefehlsZeile& z : b.Zeilen()) {
+    if (z.name == "mnu3DSub" || z.name.empty() || einfuegen.count(z.name)) continue;
+    const int16_t c = CodeVonMenue(z.name, z.index);
+    if (z.Trenner() || b.IstMenue(z.name, z.index)) {
+      EXPECT_EQ(c, 0) << z.Schluessel();
+      continue;
+    }
+    EXPECT_TRUE(CodeBekannt(c)) << z.Schluessel() << " " << c;
+    ++eintraege;
+  }
+  EXPECT_EQ(eintraege, 80);
+  BefehlsRegister gebaut;
+  RegistriereDiagrammBefehle(gebaut);
+  DiagrammHandlerSetzen(gebaut, [](const std::string&, int) {});
+  EXPECT_TRUE(gebaut.Gebaut("mnuInversionsKurve"));
+  EXPECT_TRUE(gebaut.Gebaut("mnuGraf_sub_sub_database", 8));
+  EXPECT_FALSE(gebaut.Gebaut("mnu3DSub", 0));
+}
+
+// The entries' positions as the catalogue numbers them, with the separators counted.
+TEST(DiagrammBefehle, EntriesGiveTheCodesOfTheirPlaces) {
+  EXPECT_EQ(CodeVonMenue("mnuGraf_sub_cut", 2), code::RhoP);
+  EXPECT_EQ(CodeVonMenue("mnuGraf_sub_cut", 8), code::pT);
+  EXPECT_EQ(CodeVonMenue("mnuGraf_sub_cut", 7), 0);
+  EXPECT_EQ(CodeVonMenue("mnuGraf_sub_Fup", 0), code::CpVonP);
+  EXPECT_EQ(CodeVonMenue("mnuGraf_sub_proj", 8), code::LnPvonInvT);
+  EXPECT_EQ(CodeVonMenue("mnuGraf_sub_proj", 15), code::KoexG);
+  EXPECT_EQ(CodeVonMenue("mnuGraf_sub_database", 4), code::DbCpIdGSinh);
+  EXPECT_EQ(CodeVonMenue("mnuGraf_sub_sub_database", 5), code::KorrDampfdruck);
+  EXPECT_EQ(CodeVonMenue("mnuInversionsKurve", -1), code::InversionPT);
+  EXPECT_EQ(CodeVonMenue("mnuGraf_sub_proj", 18), 0);
+  EXPECT_EQ(CodeVonMenue("mnuCalc", 2), 0);
+  // An entry named isobar or isochor or isotherm opens a curve of that family.
+  BefehlsRegister b;
+  RegistriereDiagrammBefehle(b);
+  const std::pair<const char*, int16_t> familien[] = {
+      {"isotherm", klasse::Isotherme}, {"isobar", klasse::Isobare}, {"isochor", klasse::Isochore}};
+  for (const BefehlsZeile& z : b.Zeilen())
+    for (const auto& [wort, klasse] : familien)
+      if (z.text.rfind(wort, 0) == 0 && !b.IstMenue(z.name, z.index)) {
+        const KatalogZeile* k = KatalogZeileVon(CodeVonMenue(z.name, z.index));
+        ASSERT_NE(k, nullptr) << z.Schluessel();
+        EXPECT_EQ(k->Klasse, klasse) << z.Schluessel() << " " << z.text;
+      }
 }
 
 TEST(DiagrammBefehle, ThreeDSurfacesAskForRealBehaviourOnlyWithCubicModels) {
