@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 #include <qcustomplot.h>
 
+#include <cmath>
 #include <cstdlib>
 
 namespace quor::ui {
@@ -99,6 +100,37 @@ TEST(DiagrammAdapter, TwoDimensionalPictureReachesThePlot) {
   EXPECT_REL(p->xAxis->range().upper, 10, 1e-15);
   EXPECT_EQ(p->yAxis->scaleType(), QCPAxis::stLogarithmic);
   EXPECT_REL(p->yAxis->range().upper, 100, 1e-15);
+}
+
+// A curve that leaves the plot area over its upper edge and comes back is broken where it runs
+// beyond that edge, so that no line shows along the rim; the legend takes the one corner that no
+// curve crosses.
+TEST(DiagrammAdapter, CurvesBeyondAnEdgeBreakAndTheLegendTakesAFreeCorner) {
+  test::App();
+  Diagramm2DFlaeche w;
+  w.resize(640, 480);
+  Diagramm2D d;
+  d.AchseX = {0, 10, "x", "", false, false};
+  d.AchseY = {0, 10, "y", "", false, false};
+  Reihe2D diagonale;
+  diagonale.Name = "Diagonale";
+  for (int k = 0; k <= 10; ++k) {
+    diagonale.X.push_back(k);
+    diagonale.Y.push_back(k);
+  }
+  Reihe2D ausflug;
+  ausflug.Name = "Ausflug";
+  ausflug.X = {1, 2, 3, 4, 5};
+  ausflug.Y = {5, 1e6, 2e6, 1e6, 5};
+  d.Reihen = {diagonale, ausflug};
+  w.Zeige(d);
+  const auto* kurve = qobject_cast<QCPCurve*>(w.Plot()->plottable(1));
+  ASSERT_NE(kurve, nullptr);
+  ASSERT_EQ(kurve->dataCount(), 7); // gaps between the second and third, third and fourth point
+  EXPECT_TRUE(std::isnan((kurve->data()->constBegin() + 2)->value));
+  EXPECT_TRUE(std::isnan((kurve->data()->constBegin() + 4)->value));
+  const Qt::Alignment ecke = w.Plot()->axisRect()->insetLayout()->insetAlignment(0);
+  EXPECT_EQ(ecke, Qt::AlignBottom | Qt::AlignRight);
 }
 
 } // namespace

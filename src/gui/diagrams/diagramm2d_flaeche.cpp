@@ -5,6 +5,8 @@
 #include <QVBoxLayout>
 #include <qcustomplot.h>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace quor::ui {
@@ -89,6 +91,47 @@ void SetzeAchse(QCPAxis* achse, const Achse2D& a, const QColor& vordergrund) {
   achse->setLabelColor(vordergrund);
 }
 
+// The edges of the shown range a point lies beyond, as bits: left 1, right 2, below 4, above 8.
+int Jenseits(double x, double y, const AchsenBereich& bx, const AchsenBereich& by) {
+  return (x < bx.Min) | (x > bx.Max) << 1 | (y < by.Min) << 2 | (y > by.Max) << 3;
+}
+
+// A series' points for the chart. Two neighbours beyond the same edge are joined by no visible
+// line, yet the chart would run that line along the edge of the plot area, where its rim shows;
+// a gap (NaN) breaks it.
+void PunkteMitLuecken(const Reihe2D& r, const AchsenBereich& bx, const AchsenBereich& by, QVector<double>& x,
+                      QVector<double>& y) {
+  const std::size_t n = std::min(r.X.size(), r.Y.size());
+  x.reserve(static_cast<int>(n));
+  y.reserve(static_cast<int>(n));
+  int vorher = 0;
+  for (std::size_t k = 0; k < n; ++k) {
+    const int jetzt = Jenseits(r.X[k], r.Y[k], bx, by);
+    if (k > 0 && (jetzt & vorher)) {
+      x.push_back(qQNaN());
+      y.push_back(qQNaN());
+    }
+    x.push_back(r.X[k]);
+    y.push_back(r.Y[k]);
+    vorher = jetzt;
+  }
+}
+
+// A piece of a curve runs through a rectangle.
+bool Schneidet(const QRectF& r, const QLineF& strecke) {
+  if (r.contains(strecke.p1()) || r.contains(strecke.p2())) return true;
+  if (std::max(strecke.x1(), strecke.x2()) < r.left() || std::min(strecke.x1(), strecke.x2()) > r.right() ||
+      std::max(strecke.y1(), strecke.y2()) < r.top() || std::min(strecke.y1(), strecke.y2()) > r.bottom())
+    return false;
+  const QLineF kanten[] = {{r.topLeft(), r.topRight()},
+                           {r.topRight(), r.bottomRight()},
+                           {r.bottomRight(), r.bottomLeft()},
+                           {r.bottomLeft(), r.topLeft()}};
+  for (const QLineF& kante : kanten)
+    if (strecke.intersects(kante, nullptr) == QLineF::BoundedIntersection) return true;
+  return false;
+}
+
 QCPItemText* TextBei(QCustomPlot* plot, const std::string& text, double x, double y, const QColor& farbe,
                      Qt::Alignment ausrichtung) {
   auto* t = new QCPItemText(plot);
@@ -119,10 +162,13 @@ void Diagramm2DFlaeche::Zeige(const Diagramm2D& d) {
   SetzeAchse(plot_->xAxis, d.AchseX, vordergrund);
   SetzeAchse(plot_->yAxis, d.AchseY, vordergrund);
 
+  const AchsenBereich bx = Anzeigbar(BereichVon(d.AchseX)), by = Anzeigbar(BereichVon(d.AchseY));
   for (const Reihe2D& r : d.Reihen) {
     auto* kurve = new QCPCurve(plot_->xAxis, plot_->yAxis);
     kurve->setName(Text(r.Name));
-    kurve->setData(QVector<double>(r.X.begin(), r.X.end()), QVector<double>(r.Y.begin(), r.Y.end()));
+    QVector<double> x, y;
+    PunkteMitLuecken(r, bx, by, x, y);
+    kurve->setData(x, y);
     QPen stift(Farbe(r.Farbe), r.Breite, Strich(r.Linie));
     kurve->setPen(stift);
     kurve->setLineStyle(r.Linie == LinienArt::Keine ? QCPCurve::lsNone : QCPCurve::lsLine);
@@ -151,7 +197,50 @@ void Diagramm2DFlaeche::Zeige(const Diagramm2D& d) {
   plot_->legend->setTextColor(vordergrund);
   plot_->legend->setBorderPen(QPen(vordergrund));
   SetzeKopfUndFuss(d.Kopf, d.Fuss);
+  LegendePlatzieren();
   plot_->replot();
+}
+
+// The legend goes into the corner of the plot area where the fewest pieces of curves run under it,
+// the upper right one when several are equally free.
+void Diagramm2DFlaeche::LegendePlatzieren() {
+  QCPLegend* legende = plot_->legend;
+  if (!legende->visible() || legende->itemCount() == 0) return;
+  for (const auto phase :
+       {QCPLayoutElement::upPreparation, QCPLayoutElement::upMargins, QCPLayoutElement::upLayout})
+    plot_->plotLayout()->update(phase);
+  QCPLayoutInset* einsatz = plot_->axisRect()->insetLayout();
+  const QRectF innen = einsatz->rect();
+  const QSizeF groesse = legende->outerRect().size();
+  const Qt::Alignment ecken[] = {Qt::AlignTop | Qt::AlignRight, Qt::AlignTop | Qt::AlignLeft,
+                                 Qt::AlignBottom | Qt::AlignRight, Qt::AlignBottom | Qt::AlignLeft};
+  std::array<int, 4> verdeckt{};
+  std::array<QRectF, 4> platz;
+  for (std::size_t i = 0; i < platz.size(); ++i) {
+    const bool rechts = ecken[i] & Qt::AlignRight, unten = ecken[i] & Qt::AlignBottom;
+    platz[i] = QRectF(QPointF(rechts ? innen.right() - groesse.width() : innen.left(),
+                              unten ? innen.bottom() - groesse.height() : innen.top()),
+                      groesse);
+  }
+  for (int k = 0; k < plot_->plottableCount(); ++k) {
+    const auto* kurve = qobject_cast<QCPCurve*>(plot_->plottable(k));
+    if (!kurve || !kurve->visible()) continue;
+    bool erster = true;
+    QPointF vorher;
+    for (auto it = kurve->data()->constBegin(); it != kurve->data()->constEnd(); ++it) {
+      if (qIsNaN(it->key) || qIsNaN(it->value)) {
+        erster = true;
+        continue;
+      }
+      const QPointF punkt = kurve->coordsToPixels(it->key, it->value);
+      for (std::size_t i = 0; i < platz.size(); ++i)
+        verdeckt[i] += Schneidet(platz[i], erster ? QLineF(punkt, punkt) : QLineF(vorher, punkt));
+      vorher = punkt;
+      erster = false;
+    }
+  }
+  const auto frei = std::min_element(verdeckt.begin(), verdeckt.end());
+  einsatz->setInsetAlignment(0, ecken[frei - verdeckt.begin()]);
 }
 
 void Diagramm2DFlaeche::SetzeKopfUndFuss(const std::string& kopf, const std::string& fuss) {

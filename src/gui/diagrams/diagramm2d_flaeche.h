@@ -1,7 +1,8 @@
 // The 2D chart on the screen: a QCustomPlot that shows a Diagramm2D. Curves and point sets become
 // QCPCurve plottables (they keep the order of their points, so loops and swapped axes draw right),
 // point marks one-point curves outside the legend, texts and mark labels text items at data
-// coordinates; tick labels follow the axes' format patterns. Mouse positions are turned into data
+// coordinates; tick labels follow the axes' format patterns; the legend takes the corner of the plot
+// area where it hides least of the curves. Mouse positions are turned into data
 // coordinates through the same mapping as the zoom rectangle.
 #pragma once
 
@@ -38,6 +39,7 @@ public:
 
 private:
   void SetzeKopfUndFuss(const std::string& kopf, const std::string& fuss);
+  void LegendePlatzieren();
 
   QCustomPlot* plot_;
   QCPTextElement* kopf_ = nullptr;

@@ -8,6 +8,7 @@
 #include "gui/basis/schirm.h"
 #include "gui/basis/symbole.h"
 #include "gui/calc/rechnung_steuerung.h"
+#include "gui/diagrams/graph2d_steuerung.h"
 #include "gui/frame/projekt_dialog_dienste.h"
 #include "gui/frame/rahmen_dienste.h"
 #include "gui/substance/modell_fenster.h"
@@ -41,6 +42,7 @@ QString Schluessel(const QString& name, int index) {
 mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
     : QMainWindow(eltern), state_(state), ui_(ui), mdi_(new QMdiArea(this)) {
   rechnung_ = new RechnungSteuerung(state, ui, mdi_, this);
+  graf2d_ = new Graph2DSteuerung(state, ui, mdi_, this);
   logik_ = std::make_unique<RahmenLogik>(state, ui, Dienste());
   BefehleRegistrieren();
   setObjectName("mdiQUOR");
@@ -57,7 +59,11 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
   Aktualisieren();
 }
 
-mdiQUOR::~mdiQUOR() = default;
+// The children go after this body: the closing diagram page must not ask the half-gone frame to
+// show its entries anew.
+mdiQUOR::~mdiQUOR() {
+  graf2d_->disconnect(this);
+}
 
 RahmenDienste mdiQUOR::Dienste() {
   RahmenDienste d = StandardDienste(ui_);
@@ -85,6 +91,11 @@ void mdiQUOR::BefehleRegistrieren() {
   RegistriereDiagrammBefehle(r);
   RegistriereRechenBefehle(r);
   RechenHandlerSetzen(r, [this](const std::string& name, int index) { rechnung_->Menue(name, index); });
+  DiagrammHandlerSetzen(r, [this](const std::string& name, int index) { graf2d_->Menue(name, index); });
+  EinfuegeHandlerSetzen(
+      r, [this] { return graf2d_->Seite() != nullptr; },
+      [this](const std::string& name, int index) { graf2d_->Einfuegen(name, index); });
+  connect(graf2d_, &Graph2DSteuerung::seiteGeaendert, this, &mdiQUOR::Aktualisieren);
   r.Handler("frmReferenz", [this](int) { rechnung_->ReferenzZeigen(); });
   r.Handler("mnuStoffwahl", [this](int) { StoffWahlZeigen(); });
   r.Handler("mnuModel", [this](int) { ModellFensterZeigen(false); });
@@ -261,10 +272,11 @@ void mdiQUOR::ModellFensterZeigen(bool neuAufbauen) {
   Aktualisieren();
 }
 
-// The windows of the former substance: the calculation's page with its companions, the other child
-// windows and the text windows close; the model window waits hidden for its rebuild.
+// The windows of the former substance: the calculation's page with its companions, the diagram page,
+// the other child windows and the text windows close; the model window waits hidden for its rebuild.
 void mdiQUOR::StoffFensterSchliessen() {
   rechnung_->SeiteSchliessen();
+  graf2d_->SeiteSchliessen();
   for (QMdiSubWindow* fenster : mdi_->subWindowList())
     if (fenster != modellFenster_) fenster->close();
   for (TextFenster* text : findChildren<TextFenster*>())

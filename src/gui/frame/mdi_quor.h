@@ -20,6 +20,7 @@ class QToolButton;
 namespace quor::ui {
 
 class Oberflaeche;
+class Graph2DSteuerung;
 class ModellFenster;
 class RechnungSteuerung;
 class StoffWahlFenster;
@@ -48,6 +49,7 @@ public:
   StoffWahlFenster* StoffWahl() const { return stoffWahl_; }
   ModellFenster* Modelle() const { return modell_; }
   RechnungSteuerung* Rechnung() const { return rechnung_; }
+  Graph2DSteuerung* Graf2D() const { return graf2d_; }
 
   // Enabled entries and buttons, status bar panels and Ampel from the project state.
   void Aktualisieren();
@@ -83,6 +85,7 @@ private:
   ModellFenster* modell_ = nullptr;
   QMdiSubWindow* modellFenster_ = nullptr;
   RechnungSteuerung* rechnung_ = nullptr; // the windows of the state calculations
+  Graph2DSteuerung* graf2d_ = nullptr;    // the 2D diagram page
 };
 
 } // namespace quor::ui

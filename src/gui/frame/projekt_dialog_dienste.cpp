@@ -1,6 +1,7 @@
 #include "gui/frame/projekt_dialog_dienste.h"
 
 #include "core/projekt_datei.h"
+#include "gui/diagrams/graph2d_steuerung.h"
 #include "gui/frame/mdi_quor.h"
 #include "gui/frame/optionen_fenster.h"
 #include "gui/frame/projekt_dialog.h"
@@ -18,7 +19,8 @@ namespace {
 void MenueTexteSetzen(mdiQUOR& rahmen, const OptionenAktionen& a) {
   for (const auto& [eintrag, text] : a.CalcMenueTexte)
     rahmen.Logik().Befehle.SetzeText("mnuCalc", eintrag, text);
-  // Clearing the 2D diagram on a change of units waits for the diagram window.
+  // New units: the diagram's axes no longer fit them.
+  if (a.Graph2DLoeschen) rahmen.Graf2D()->SeiteSchliessen();
   rahmen.Aktualisieren();
 }
 
