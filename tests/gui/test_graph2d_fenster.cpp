@@ -1,6 +1,7 @@
 // The 2D diagram page in the frame: from a menu entry to a drawn curve, the chart showing what the
 // page's logic holds through zoom, reset, swapped axes and deletes, the question when the axes don't
 // fit, the insert menu while a page is open; and the pictures of typical diagrams.
+#include "diagrams/diagramm_befehle.h"
 #include "gui/diagrams/diagramm2d_flaeche.h"
 #include "gui/diagrams/graph2d_steuerung.h"
 #include "programm_hilfe.h"
@@ -100,6 +101,11 @@ QAction* Eintrag(QMenu* menue, const char* name, int index) {
 
 TEST(Graph2DFenster, FromTheMenuToCurvesThatTheChartShowsThroughZoomSwapAndDelete) {
   Diagramme a("Methan");
+  // Every diagram of the 2D menu is there for a substance with its models.
+  for (const BefehlsZeile& z : a.fenster->Logik().Befehle.Zeilen()) {
+    if (CodeVonMenue(z.name, z.index) == 0) continue;
+    EXPECT_TRUE(a.fenster->Befehl(QString::fromStdString(z.name), z.index)->isEnabled()) << z.Schluessel();
+  }
   EXPECT_FALSE(a.fenster->Befehl("mnuMarkKoex")->isEnabled()); // no page yet
   Graph2DFenster* seite = a.Menue("mnuGraf_sub_cut", 1);
   ASSERT_NE(seite, nullptr);
@@ -122,7 +128,11 @@ TEST(Graph2DFenster, FromTheMenuToCurvesThatTheChartShowsThroughZoomSwapAndDelet
   const QPoint bis = r.topLeft() + QPoint(r.width() / 2, 3 * r.height() / 4);
   Maus(plot, QEvent::MouseButtonPress, von, Qt::LeftButton);
   Maus(plot, QEvent::MouseMove, bis, Qt::LeftButton);
-  EXPECT_FALSE(seite->Statuszeile()->text().isEmpty());
+  const Punkt2D unter = seite->Flaeche()->DatenBei(bis);
+  const std::string ort = seite->Logik().Maus(unter.X, unter.Y, 0, 0).Koordinaten;
+  EXPECT_FALSE(ort.empty());
+  EXPECT_TRUE(seite->Statuszeile()->text().startsWith(QString::fromStdString(ort)))
+      << seite->Statuszeile()->text().toStdString();
   Maus(plot, QEvent::MouseButtonRelease, bis, Qt::LeftButton);
   const auto ganz = seite->Logik().LetzteEinstellung();
   const auto eng = seite->Logik().Bereich();
