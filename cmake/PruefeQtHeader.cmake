@@ -1,5 +1,6 @@
 # Fails when a source file outside the toolkit layer (src/gui), the programs (app/), the GUI
-# companion tools and the widget tests includes a Qt header. Run with -DWURZEL=<source root>.
+# companion tools, the widget tests and the chart benchmarks (bench/gui) includes a Qt header.
+# Run with -DWURZEL=<source root>.
 set(gui_werkzeuge tavik1w)
 file(GLOB_RECURSE dateien LIST_DIRECTORIES false
      ${WURZEL}/src/*.h ${WURZEL}/src/*.hpp ${WURZEL}/src/*.cpp
@@ -9,7 +10,8 @@ file(GLOB_RECURSE dateien LIST_DIRECTORIES false
 set(verstoesse "")
 foreach(datei ${dateien})
   file(RELATIVE_PATH relativ ${WURZEL} ${datei})
-  if(relativ MATCHES "^src/gui/" OR relativ MATCHES "^tests/gui/" OR relativ MATCHES "^tests/data/")
+  if(relativ MATCHES "^src/gui/" OR relativ MATCHES "^tests/gui/" OR relativ MATCHES "^tests/data/"
+     OR relativ MATCHES "^bench/gui/")
     continue()
   endif()
   set(ist_gui_werkzeug FALSE)
