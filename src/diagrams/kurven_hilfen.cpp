@@ -11,8 +11,11 @@ namespace quor::kurven {
 
 namespace {
 
+// A saturation with both volumes: a search that stops at p(cr) just below T(cr) leaves the roots of
+// its last single-root state, which are no saturated pair.
 bool SaettigungGueltig(const Koexistenz& k) {
-  return std::isfinite(k.p) && std::isfinite(k.vL) && std::isfinite(k.vV) && k.p > 1e-6;
+  return std::isfinite(k.p) && std::isfinite(k.vL) && std::isfinite(k.vV) && k.p > 1e-6 && k.vL > 0 &&
+         k.vV >= k.vL;
 }
 
 void SattVolumen(const ProjectState& s, Koexistenz& k) {

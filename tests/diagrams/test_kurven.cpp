@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace quor {
 namespace {
 
@@ -64,6 +66,20 @@ TEST(CalcCurve, TieLineModeAndTheEmptyCurve) {
   k.Zeichne(code::Dampfdruck, klasse::Koexistenz, 200, 300, 0, 5000, 0); // all above T(cr)
   EXPECT_EQ(Anzahl(k.punkte), 0u);
   EXPECT_EQ(k.meldung, "mit diesen Eingabedaten kein Ergebnis erhalten");
+}
+
+// Just below T(cr) the saturation search stops at p(cr) with the roots of a one-root state: the
+// isotherm takes no saturation pair from it, and no point at v = 0.
+TEST(CalcCurve, AnIsothermJustBelowTheCriticalPointHasNoFalseSaturationPoint) {
+  for (const char* cas : {test::CasMethan, "74-98-6"}) {
+    Kurve k;
+    k.s = test::StoffMitModell(cas, 6);
+    const double Tc = k.s.Stoff.TKrit;
+    k.Zeichne(code::pv, klasse::Isotherme, 0.03f, 2, 0, 20000, std::nextafter(Tc, 0.0));
+    ASSERT_GT(Anzahl(k.punkte), 0u) << cas;
+    for (std::size_t i = 1; i < k.punkte.size(); ++i)
+      EXPECT_GT(k.punkte[i].X, 0.02f) << cas << " point " << i;
+  }
 }
 
 } // namespace
