@@ -160,6 +160,24 @@ Groesse frmQGraph2D::AchseY() const {
   return Schlicht(gekippt_ ? z->X : z->Y);
 }
 
+// The pre-selected colour for the curve being stored; the pre-selection then moves on to the next
+// colour of the palette, so that curves drawn one after the other tell apart unless the user
+// chooses again.
+RGBFarbe frmQGraph2D::NaechsteFarbe() {
+  static constexpr std::array<RGBFarbe, 8> Palette{{{0, 0, 255},
+                                                    {200, 0, 0},
+                                                    {0, 140, 0},
+                                                    {230, 120, 0},
+                                                    {140, 0, 170},
+                                                    {0, 150, 160},
+                                                    {120, 80, 30},
+                                                    {0, 0, 0}}};
+  const RGBFarbe farbe = farbVorwahl_;
+  const auto* hier = std::find(Palette.begin(), Palette.end(), farbe);
+  farbVorwahl_ = hier == Palette.end() || hier + 1 == Palette.end() ? Palette[0] : *(hier + 1);
+  return farbe;
+}
+
 ZeichenErgebnis frmQGraph2D::cmdDraw() {
   const EinheitenGruppe& e = s_.Einheiten;
   return cmdDraw(auftrag_, e.TVorgabe, e.pVorgabe, e.vVorgabe);
@@ -205,7 +223,7 @@ ZeichenErgebnis frmQGraph2D::cmdDraw(const DiagrammAuftrag& auftrag, double T, d
   kurve.T = T, kurve.p = p, kurve.v = v;
   kurve.Konnode = s_.Diagramm.KonnodeModus;
   kurve.Legende = Legende(a, T, p, v, k);
-  kurve.Farbe = farbVorwahl_;
+  kurve.Farbe = NaechsteFarbe();
   if (gekippt_) Tausche(k);
   kurve.Punkte = std::move(k);
   kurven_[static_cast<std::size_t>(slot)] = std::move(kurve);
@@ -392,7 +410,7 @@ bool frmQGraph2D::cmdExternKurve(const std::vector<double>& X, const std::vector
   kurve.Auftrag = RechenAuftrag();
   kurve.Auftrag.Klasse = 0;
   kurve.Legende = legende;
-  kurve.Farbe = farbVorwahl_;
+  kurve.Farbe = NaechsteFarbe();
   kurven_[static_cast<std::size_t>(slot)] = std::move(kurve);
   belegt_[static_cast<std::size_t>(slot)] = true;
   Geaendert();

@@ -185,6 +185,7 @@ public:
 
 private:
   int FreierPlatz() const;
+  RGBFarbe NaechsteFarbe();
   ZeichenErgebnis Ausgang(int16_t ergebnis, bool imBereich, const std::string& meldung,
                           const Kurvenpunkte& k);
   void Hinweise(const DiagrammAuftrag& a, const std::string& meldung, const Kurvenpunkte& k);

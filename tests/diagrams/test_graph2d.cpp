@@ -24,7 +24,9 @@ TEST(Graph2D, TwentyFourCurvesFillTheSlotsAndTheTwentyFifthIsRefused) {
   EXPECT_TRUE(t.Meldungen().empty());
   EXPECT_EQ(t.g.KurvenAnzahl(), MaxKurven);
   EXPECT_EQ(t.g.Kurve(3).Legende, "T = 165.00 K.");
-  EXPECT_EQ(t.g.Kurve(3).Farbe, (RGBFarbe{255, 0, 0}));
+  // The chosen colour goes to the next curve; after it the pre-selection moves through the palette.
+  EXPECT_EQ(t.g.Kurve(0).Farbe, (RGBFarbe{255, 0, 0}));
+  EXPECT_NE(t.g.Kurve(1).Farbe, t.g.Kurve(2).Farbe);
 
   // The page keeps the engine's points for the axes on show.
   Kurvenpunkte direkt;
