@@ -1,0 +1,101 @@
+// Logic of the 3D diagram page frmGraph3D: one surface of a function of two state variables over a
+// regular grid (Diagramm3DArt), its standard ranges, the range input, the surface computation, the
+// display options, the critical point and the iso-lines on the surface. The picture is a Flaeche3D
+// that the view hands to the Q3DSurface adapter.
+#pragma once
+
+#include "core/project_state.h"
+#include "diagrams/diagramm_bild.h"
+#include "dienste/oberflaeche.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace quor {
+
+// The preset Z pair: with it the Z axis follows the data.
+constexpr float Z3DVorgabe = 0.01111f;
+// The largest heat capacity a cell shows, in display units.
+constexpr double Cp3DGrenze = 500000;
+
+// Menu entry of mnu3DSub to the surface's Art (0 to 2: Art 1 to 3; 4 to 10: Art 4 to 10); 0 for none.
+int16_t ArtVon3DMenue(int eintrag);
+
+// Title and axis texts of a surface in the display units ("Druck p(v, T)", "v / (m^3/kmol)", ...).
+struct Texte3D {
+  std::string Titel, X, Y, Z;
+};
+Texte3D TexteVon(int16_t art, const EinheitenGruppe& e);
+
+// The six limits of the axes in display units: x, y, z, each low and high.
+struct Bereich3D {
+  double xMin = 0, xMax = 1, yMin = 0, yMax = 1, zMin = -Z3DVorgabe, zMax = Z3DVorgabe;
+};
+
+// The standard ranges of an Art with the unit factors; `reales` only matters for Art 1.
+Bereich3D IniStandardBereich3D(const ProjectState& s, int16_t art, bool reales);
+
+// The grid as the surface gets it: X[i], Y[j], Z[j][i] in display units; a cell the engine could not
+// give is NaN in Z and false in Gueltig.
+struct Gitter3D {
+  std::vector<double> X, Y;
+  std::vector<std::vector<double>> Z;
+  std::vector<std::vector<bool>> Gueltig;
+};
+
+// The surface of `art` over nx + 1 by ny + 1 points of `b`. The function surfaces (Art 4 to 10)
+// follow FlaecheBerechnen: p of 0 taken as 0.1 kPa, the phase by the state solver, the caloric block of
+// that root times EnergieFaktor, cp held at Cp3DGrenze, values clipped to Z limits other than the
+// preset pair. Art 1 to 3 with `reales` put a cell inside the two-phase region on the saturation plane.
+Gitter3D FlaecheBerechnen(ProjectState& s, int16_t art, int nx, int ny, const Bereich3D& b, bool reales);
+
+class frmGraph3D {
+public:
+  frmGraph3D(ProjectState& s, ui::Oberflaeche& ui);
+
+  // A new surface of `art`: asks "Reales Verhalten zeichnen?" for a cubic model and Art 1 or 3
+  // (a virial model always draws the real behaviour), sets the standard ranges and computes.
+  // False when nothing could be drawn (with the message of an empty surface).
+  bool Neu(int16_t art);
+  int16_t Art() const { return art_; }
+  bool Reales() const { return reales_; }
+
+  // The range input cmdCoord3 (texts as typed, display units): the two refusals under
+  // "EINGABE-FEHLER"; on success the surface is computed anew.
+  bool cmdCoord3(const std::array<std::string, 6>& felder);
+  const Bereich3D& Bereich() const { return bereich_; }
+
+  // Grid resolution (points per axis minus one).
+  void Aufloesung(int nx, int ny);
+
+  // Display options and the dressing.
+  Anzeige3D Anzeige;
+  void KritischerPunkt(bool an); // the point "CrP"
+  // Iso-lines on the surface: `anzahl` lines of constant Z, T (rows) or v/p (columns); `halbe`
+  // halves their count.
+  void Isolinien(int anzahlZ, int anzahlT, int anzahlV, bool halbeT, bool halbeV);
+
+  // The picture for the adapter; the warning text under the title for Art 4.
+  Flaeche3D Bild() const;
+  std::string Hinweis() const;
+  const Gitter3D& Gitter() const { return gitter_; }
+  int Stand() const { return stand_; }
+
+private:
+  bool Rechnen();
+
+  ProjectState& s_;
+  ui::Oberflaeche& ui_;
+  int16_t art_ = 0;
+  bool reales_ = true;
+  bool ersteZeichnung_ = true;
+  Bereich3D bereich_;
+  int nx_ = 60, ny_ = 60;
+  Gitter3D gitter_;
+  bool kritischerPunkt_ = false;
+  std::vector<Linie3D> linien_;
+  int stand_ = 0;
+};
+
+} // namespace quor
