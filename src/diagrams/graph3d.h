@@ -36,6 +36,17 @@ struct Bereich3D {
 // The standard ranges of an Art with the unit factors; `reales` only matters for Art 1.
 Bereich3D IniStandardBereich3D(const ProjectState& s, int16_t art, bool reales);
 
+// The one stored set of limits in display units: p, T, v, and the Z of a function surface. The axes
+// of Art 1, 2, 3 are rotations of it (x, y, z = v, T, p; p, T, v; v, p, T); Art 4 to 10 take p, T
+// and the function's pair.
+struct AchsenSatz3D {
+  double pMin = 0, pMax = 1, TMin = 0, TMax = 1, vMin = 0, vMax = 1;
+  double fMin = -Z3DVorgabe, fMax = Z3DVorgabe;
+};
+Bereich3D AchsenVon(int16_t art, const AchsenSatz3D& a);
+// Writes the axes of `art` back into the stored set.
+void InSatz(int16_t art, const Bereich3D& b, AchsenSatz3D& a);
+
 // The grid as the surface gets it: X[i], Y[j], Z[j][i] in display units; a cell the engine could not
 // give is NaN in Z and false in Gueltig.
 struct Gitter3D {
@@ -61,12 +72,13 @@ public:
   int16_t Art() const { return art_; }
   bool Reales() const { return reales_; }
 
-  // The range input cmdCoord3 (texts as typed, display units): the two refusals under
-  // "EINGABE-FEHLER"; on success the surface is computed anew.
+  // The range input cmdCoord3 (texts as typed, display units, in the order x low, x high, y low,
+  // y high, z low, z high): the two refusals under "EINGABE-FEHLER"; on success the limits go into
+  // the stored set and the surface is computed anew.
   bool cmdCoord3(const std::array<std::string, 6>& felder);
   const Bereich3D& Bereich() const { return bereich_; }
 
-  // Grid resolution (points per axis minus one).
+  // Grid resolution (points per axis minus one, 1 to 400); an open surface is computed anew.
   void Aufloesung(int nx, int ny);
 
   // Display options and the dressing.
@@ -84,17 +96,23 @@ public:
 
 private:
   bool Rechnen();
+  void Ausstatten(); // iso-lines and the critical point of the grid on show
+  void KritischenPunktSetzen();
 
   ProjectState& s_;
   ui::Oberflaeche& ui_;
   int16_t art_ = 0;
   bool reales_ = true;
   bool ersteZeichnung_ = true;
+  AchsenSatz3D satz_;
   Bereich3D bereich_;
   int nx_ = 60, ny_ = 60;
   Gitter3D gitter_;
   bool kritischerPunkt_ = false;
   std::vector<Linie3D> linien_;
+  std::array<int, 3> isoAnzahl_{}; // Z, T (rows), v or p (columns)
+  bool halbeT_ = false, halbeV_ = false;
+  std::vector<Marke3D> marken_;
   int stand_ = 0;
 };
 
