@@ -142,8 +142,9 @@ double Zellrechner::Funktion(double p, double T) {
   if (err != 0) return KeinWert;
   double wert = Groesse(art_, T, w);
   const double E = s_.Einheiten.EnergieFaktor;
-  // The spike of cp at the critical point stays finite.
-  if (art_ == art3d::Cp && wert * E >= Cp3DGrenze) wert = Cp3DGrenze / E;
+  // The spike of cp at the critical point stays finite. Right at the point the slope of the isotherm
+  // rounds to either sign, so a spike below zero is the same spike.
+  if (art_ == art3d::Cp && std::fabs(wert * E) >= Cp3DGrenze) wert = Cp3DGrenze / E;
   return wert * E;
 }
 
