@@ -59,12 +59,15 @@ const Option Optionen[] = {
     {"--lst", true, "batch"},
     {"--csv", true, "batch"},
     {"--details", false, "batch"},
-    {"--x", true, "curve"},
-    {"--y", true, "curve"},
+    {"--x", true, "curve surface"},
+    {"--y", true, "curve surface"},
+    {"--z", true, "surface"},
+    {"--nx", true, "surface"},
+    {"--ny", true, "surface"},
     {"--points", true, "curve"},
     {"--isohygre", true, "curve"},
     {"--s-loop", false, "curve"},
-    {"--real", false, "curve"},
+    {"--real", false, "curve surface"},
     {"--tie-line", false, "curve"},
 };
 
@@ -185,10 +188,10 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   if (a.Hilfe) return a;
 
   if (positionen.empty())
-    throw Eingabefehler("no command given (list, info, calc, batch, curve; see quor-cli --help)");
+    throw Eingabefehler("no command given (list, info, calc, batch, curve, surface; see quor-cli --help)");
   a.Befehl = positionen[0];
   if (a.Befehl != "list" && a.Befehl != "info" && a.Befehl != "calc" && a.Befehl != "batch" &&
-      a.Befehl != "curve")
+      a.Befehl != "curve" && a.Befehl != "surface")
     throw Eingabefehler("unknown command '" + a.Befehl + "' (see quor-cli --help)");
   const bool mitArt = a.Befehl == "calc" || a.Befehl == "batch";
   if (mitArt) {
@@ -202,7 +205,11 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
     if (positionen.size() < 2) throw Eingabefehler("curve needs the diagram code (see quor-cli --help)");
     a.Code = Ganzzahl("code", positionen[1], 1, 315);
   }
-  const std::size_t erwartet = mitArt || a.Befehl == "curve" ? 2 : 1;
+  if (a.Befehl == "surface") {
+    if (positionen.size() < 2) throw Eingabefehler("surface needs the surface's Art (see quor-cli --help)");
+    a.Flaeche = Ganzzahl("Art", positionen[1], 1, 10);
+  }
+  const std::size_t erwartet = mitArt || a.Befehl == "curve" || a.Befehl == "surface" ? 2 : 1;
   if (positionen.size() > erwartet) throw Eingabefehler("unexpected argument '" + positionen[erwartet] + "'");
 
   for (const std::string& name : a.Gegeben) {
@@ -282,6 +289,9 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   if (a.Befehl == "batch" && a.Daten.empty()) throw Eingabefehler("batch needs --data FILE.BAQ");
   if (hat("--x")) a.XBereich = Bereich("--x", wert("--x"));
   if (hat("--y")) a.YBereich = Bereich("--y", wert("--y"));
+  if (hat("--z")) a.ZBereich = Bereich("--z", wert("--z"));
+  if (hat("--nx")) a.NX = Ganzzahl("--nx", wert("--nx"), 1, 400);
+  if (hat("--ny")) a.NY = Ganzzahl("--ny", wert("--ny"), 1, 400);
   if (hat("--points")) a.Punkte = Ganzzahl("--points", wert("--points"), 2, 32000);
   if (hat("--isohygre")) {
     a.Isohygre = Zahl("--isohygre", wert("--isohygre"));

@@ -28,7 +28,7 @@ struct Aufruf {
   bool Json = false;
   bool Hilfe = false;
 
-  std::string Befehl; // list, info, calc, batch, curve
+  std::string Befehl; // list, info, calc, batch, curve, surface
   int Art = 0;        // kind of calc and batch
 
   // Options of calc and batch.
@@ -47,6 +47,11 @@ struct Aufruf {
   std::optional<int> Punkte;                              // points per curve
   std::optional<double> Isohygre;
   bool SSchleife = false, Real = false, Konnode = false;
+
+  // Options of surface (with --x, --y and --real of curve).
+  int Flaeche = 0;                                  // the surface's Art, 1 to 10
+  std::optional<std::array<double, 2>> ZBereich;    // Z range, displayed units
+  std::optional<int> NX, NY;                        // grid steps per axis
 
   std::set<std::string> Gegeben;           // every option named on the line
   std::map<std::string, std::string> Text; // the value of each option as typed

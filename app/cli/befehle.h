@@ -14,6 +14,7 @@ int BefehlInfo(Sitzung& z, std::ostream& aus, std::ostream& fehler);
 int BefehlCalc(Sitzung& z, std::ostream& aus, std::ostream& fehler);
 int BefehlBatch(Sitzung& z, std::ostream& aus, std::ostream& fehler);
 int BefehlCurve(Sitzung& z, std::ostream& aus, std::ostream& fehler);
+int BefehlSurface(Sitzung& z, std::ostream& aus, std::ostream& fehler);
 
 // Runs a whole command line (argv without the program name); never throws.
 int Ausfuehren(const std::vector<std::string>& argumente, std::ostream& aus, std::ostream& fehler);

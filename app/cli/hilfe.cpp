@@ -21,6 +21,9 @@ Commands:
                           --details adds the per-point derivative pages to the list
   curve CODE [options]    one curve of a 2D diagram as the diagram page gets it: title, axis
                           texts, then "X Y Z" per point (displayed units; Z the curve's parameter)
+  surface ART [options]   one surface of the 3D diagram over a grid: title, axis texts, then
+                          "X Y Z" per grid point, row by row with an empty line after each row
+                          (displayed units; "-" for a point without a value)
 
 Kinds (KIND):
   1  T, rho(V) => p          2  T, rho(L) => p          3  T, p => rho
@@ -60,6 +63,18 @@ Options of curve:
   180..185 over T at v; 6, 7, 8, 9, 10, 11, 12, 13, 27, 80, 106 the two-phase region;
   90..95 functions along saturation; 21..24, 107, 109 h-s and exergy diagrams;
   105, 190 inversion curves; 300..315 database functions of T.
+
+Options of surface:
+  --x A,B, --y A,B, --z A,B
+                          axis ranges in displayed units (";" may separate); default: the
+                          surface's standard ranges, where Z of ARTs 4 to 10 follows the data;
+                          heights outside a Z range are held at its ends
+  --nx N, --ny N          grid steps per axis, 1 to 400 (default 60: N + 1 points)
+  --real                  p(v, T) and T(v, p) of a cubic EOS with the saturation plane inside
+                          the two-phase region; without it the S-curves (other models and
+                          surfaces always follow the real behaviour)
+  Arts (ART): 1 p(v, T), 2 v(p, T), 3 T(v, p), 4 cp(p, T), 5 u(p, T), 6 h(p, T), 7 s(p, T),
+  8 g(p, T), 9 exergy of u, 10 exergy of h; x, y are v, T (1), p, T (2), v, p (3), p, T (4 to 10).
 
 Global options:
   --db PATH               database (.Q07, or .Q06); default QUOR.Q07 of the program directory

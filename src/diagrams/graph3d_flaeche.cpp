@@ -2,6 +2,7 @@
 // saturation plane of the real behaviour, and the caloric functions over p and T.
 #include "diagrams/diagramm3d_art.h"
 #include "diagrams/graph3d_intern.h"
+#include "engine/eos_auswertung.h"
 #include "engine/eos_zeilen.h"
 #include "engine/kalorik.h"
 #include "engine/saettigung.h"
@@ -100,6 +101,8 @@ void Zellrechner::SaettigungBei(double T) {
 double Zellrechner::Druck(double v, double T) {
   SaettigungBei(T);
   if (zweiphasig_ && v > vL_ && v < vV_) return pLV_;
+  // The solver tests v against the co-volume it holds, so that one has to be of this T.
+  if (!s_.Modell.VirialFlag) EOSbeiT(s_, T);
   int16_t err = 0;
   const double p = PzuTV(s_, T, v, err);
   return err == 0 ? p : KeinWert;

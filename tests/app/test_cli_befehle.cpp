@@ -137,5 +137,39 @@ TEST(CliBefehle, CurveGibtDieIsothermeAlsPunkteDerGleichung) {
   EXPECT_EQ(text.aus.rfind("Dampfdruck p(LV):  p(LV) vs. T\nx: T / K\ny: p / kPa\n", 0), 0u) << text.aus;
 }
 
+// surface: the grid of p(v, T) as JSON, z[j] over y[j]. The S-curves give the equation's own pressure
+// in every cell; with --real a subcritical row is flat between the saturated volumes. The column at
+// v = 0 has no pressure.
+TEST(CliBefehle, SurfaceGibtDasGitterDerGleichung) {
+  const Json info = StarteJson({"--substance", "Propan", "info"});
+  const std::vector<std::string> auftrag = {"--substance", "Propan", "surface", "1", "--x", "0,1.2",
+                                            "--y",         "300,310", "--nx",    "12", "--ny", "1",
+                                            "--z",         "0,5000"};
+  const Json s = StarteJson(auftrag);
+  EXPECT_EQ(s["title"].T(), "Druck p(v, T)");
+  EXPECT_EQ(s["z_text"].T(), "p / kPa");
+  const auto &x = s["x"].liste, &y = s["y"].liste, &z = s["z"].liste;
+  ASSERT_EQ(x.size(), 13u);
+  ASSERT_EQ(y.size(), 2u);
+  ASSERT_EQ(z.size(), 2u);
+  EXPECT_EQ(z[0][0].typ, Json::Typ::Null);
+  for (std::size_t i = 1; i < x.size(); ++i) {
+    const double p = z[0][i].Z();
+    if (p > 0 && p < 5000) {
+      EXPECT_TRUE(IstWurzel(info, y[0].Z(), p, x[i].Z(), 2e-6)) << x[i].Z();
+    }
+  }
+
+  std::vector<std::string> real = auftrag;
+  real.push_back("--real");
+  const Json r = StarteJson(real);
+  // At 300 K propane's saturated volumes lie near 0.09 and 2 m^3/kmol: 0.3 to 1.2 sit on the plane.
+  const double pLV = r["z"][0][3].Z();
+  EXPECT_GT(pLV, 500);
+  for (std::size_t i = 3; i < x.size(); ++i)
+    EXPECT_EQ(r["z"][0][i].Z(), pLV) << x[i].Z();
+  EXPECT_NE(s["z"][0][6].Z(), pLV);
+}
+
 } // namespace
 } // namespace quor::test

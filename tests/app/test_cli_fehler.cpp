@@ -32,6 +32,10 @@ TEST(CliFehler, EingabefehlerEndenMitCode2UndGescheiterteRechnungenMitCode1) {
       {{"--substance", W, "curve", "1"}, 2, "code 1 needs --T"},
       {{"--substance", W, "curve", "9", "--T", "300"}, 2, "code 9 takes no --T"},
       {{"--substance", W, "curve", "1", "--T", "nan"}, 2, "keine gültige Eingabe (--T \"nan\")"},
+      {{"--substance", W, "surface", "11"}, 2, "Art 11: expected a whole number from 1 to 10"},
+      {{"--substance", W, "surface", "4", "--z", "1,-1"}, 2, "the range must rise"},
+      {{"--substance", W, "surface", "4", "--x", "nan,1"}, 2, "keine gültige Eingabe (--x \"nan\")"},
+      {{"--substance", W, "surface", "1", "--x", "0,0.001"}, 1, "the surface has no point with a value"},
       {{"frobnicate"}, 2, "unknown command 'frobnicate'"},
       {{"info"}, 2, "command info needs --substance"},
       // Above the critical temperature there is no vapour pressure, and PARTIAL has no vessel.
