@@ -49,9 +49,9 @@ struct Aufruf {
   bool SSchleife = false, Real = false, Konnode = false;
 
   // Options of surface (with --x, --y and --real of curve).
-  int Flaeche = 0;                                  // the surface's Art, 1 to 10
-  std::optional<std::array<double, 2>> ZBereich;    // Z range, displayed units
-  std::optional<int> NX, NY;                        // grid steps per axis
+  int Flaeche = 0;                               // the surface's Art, 1 to 10
+  std::optional<std::array<double, 2>> ZBereich; // Z range, displayed units
+  std::optional<int> NX, NY;                     // grid steps per axis
 
   std::set<std::string> Gegeben;           // every option named on the line
   std::map<std::string, std::string> Text; // the value of each option as typed

@@ -32,8 +32,9 @@ Bereich3D Grenzen(const Aufruf& a, const ProjectState& s, int16_t art, bool real
 }
 
 bool HatWert(const Gitter3D& g) {
-  return std::any_of(g.Gueltig.begin(), g.Gueltig.end(),
-                     [](const std::vector<bool>& zeile) { return std::find(zeile.begin(), zeile.end(), true) != zeile.end(); });
+  return std::any_of(g.Gueltig.begin(), g.Gueltig.end(), [](const std::vector<bool>& zeile) {
+    return std::find(zeile.begin(), zeile.end(), true) != zeile.end();
+  });
 }
 
 void JsonAusgabe(std::ostream& aus, int16_t art, const Texte3D& t, const Gitter3D& g,
@@ -69,7 +70,10 @@ void JsonAusgabe(std::ostream& aus, int16_t art, const Texte3D& t, const Gitter3
 }
 
 void TextAusgabe(std::ostream& aus, const Texte3D& t, const Gitter3D& g) {
-  aus << t.Titel << "\n" << "x: " << t.X << "\n" << "y: " << t.Y << "\n" << "z: " << t.Z << "\n";
+  aus << t.Titel << "\n"
+      << "x: " << t.X << "\n"
+      << "y: " << t.Y << "\n"
+      << "z: " << t.Z << "\n";
   for (std::size_t zeile = 0; zeile < g.Z.size(); ++zeile) {
     for (std::size_t i = 0; i < g.Z[zeile].size(); ++i) {
       aus << KurzText(g.X[i]) << " " << KurzText(g.Y[zeile]) << " ";
@@ -94,8 +98,8 @@ int BefehlSurface(Sitzung& z, std::ostream& aus, std::ostream& fehler) {
   s.Einheiten.EnergieFaktor = kurven::EnergieFaktorBeiT(s, s.Einheiten.TVorgabe);
   const bool reales = RealesVerhalten(s, art, a.Real);
   const Bereich3D b = Grenzen(a, s, art, reales);
-  const Gitter3D g = FlaecheBerechnen(s, art, a.NX.value_or(StandardSchritte), a.NY.value_or(StandardSchritte),
-                                      b, reales);
+  const Gitter3D g =
+      FlaecheBerechnen(s, art, a.NX.value_or(StandardSchritte), a.NY.value_or(StandardSchritte), b, reales);
   const Texte3D t = TexteVon(art, s.Einheiten);
 
   const auto meldungen = Meldungen(z.ui, z.Gedruckt, z.ui.protokoll.size());

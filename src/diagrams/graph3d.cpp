@@ -65,10 +65,9 @@ std::string FunktionsText(int16_t art, const EinheitenGruppe& e) {
 }
 
 const char* FunktionsTitel(int16_t art) {
-  static const char* const titel[] = {"Wärmekapazität Cp(p, T)", "Innere Energie U(p, T)",
-                                      "Enthalpie H(p, T)",       "Entropie S(p, T)",
-                                      "Freie Enthalpie G(p, T)", "Exergie von U EU(p, T)",
-                                      "Exergie von H EH(p, T)"};
+  static const char* const titel[] = {
+      "Wärmekapazität Cp(p, T)", "Innere Energie U(p, T)", "Enthalpie H(p, T)",     "Entropie S(p, T)",
+      "Freie Enthalpie G(p, T)", "Exergie von U EU(p, T)", "Exergie von H EH(p, T)"};
   return titel[art - art3d::Cp];
 }
 

@@ -159,6 +159,27 @@ bool Innen(double x, double von, double bis) {
   return x >= std::min(von, bis) && x <= std::max(von, bis);
 }
 
+// The cell of the grid that holds `x` on an axis of rising positions: its lower index.
+std::size_t ZellVon(const std::vector<double>& achse, double x) {
+  const auto oben = std::upper_bound(achse.begin(), achse.end(), x);
+  const auto k = static_cast<std::size_t>(std::max<std::ptrdiff_t>(oben - achse.begin() - 1, 0));
+  return std::min(k, achse.size() - 2);
+}
+
+// The height of the surface at (x, y) between the four corners of its cell; NaN when a corner has no
+// value or the grid doesn't hold the point.
+double HoeheBei(const Gitter3D& g, double x, double y) {
+  if (g.X.size() < 2 || g.Y.size() < 2 || !Innen(x, g.X.front(), g.X.back()) ||
+      !Innen(y, g.Y.front(), g.Y.back()))
+    return std::nan("");
+  const std::size_t i = ZellVon(g.X, x), j = ZellVon(g.Y, y);
+  if (!g.Gueltig[j][i] || !g.Gueltig[j][i + 1] || !g.Gueltig[j + 1][i] || !g.Gueltig[j + 1][i + 1])
+    return std::nan("");
+  const double u = (x - g.X[i]) / (g.X[i + 1] - g.X[i]), w = (y - g.Y[j]) / (g.Y[j + 1] - g.Y[j]);
+  return (1 - w) * ((1 - u) * g.Z[j][i] + u * g.Z[j][i + 1]) +
+         w * ((1 - u) * g.Z[j + 1][i] + u * g.Z[j + 1][i + 1]);
+}
+
 // The Z axis of the picture: a preset limit follows the data; a flat surface gets some height.
 Achse3D ZAchse(const Gitter3D& g, const Bereich3D& b, const std::string& titel) {
   Achse3D a{b.zMin, b.zMax, titel};
@@ -222,7 +243,7 @@ void frmGraph3D::KritischenPunktSetzen() {
   const EinheitenGruppe& e = s_.Einheiten;
   if (!(st.TKrit > 1e-6) || !(st.pKrit > 1e-6)) return;
   const double Tc = st.TKrit * e.TFaktor, pc = st.pKrit * e.pFaktor;
-  const double vKrit = s_.EOS.vKritEOS > 0 ? s_.EOS.vKritEOS
+  const double vKrit = s_.EOS.vKritEOS > 0    ? s_.EOS.vKritEOS
                        : st.rhoKritExp > 1e-6 ? st.MolMasse / st.rhoKritExp
                                               : 0;
   const double vc = vKrit * e.VolumenFaktor;
@@ -236,8 +257,9 @@ void frmGraph3D::KritischenPunktSetzen() {
   } else if (art_ == art3d::Temperatur) {
     ort = {vc, pc, Tc};
   } else {
-    graph3d::Zellrechner rechner(s_, art_, reales_, bereich_);
-    ort = {pc, Tc, rechner.Wert(pc, Tc)};
+    // A function's value diverges there (cp) or lies between grid points: the point sits on the
+    // surface as drawn.
+    ort = {pc, Tc, HoeheBei(gitter_, pc, Tc)};
   }
   const Bereich3D& b = bereich_;
   if (!std::isfinite(ort.Z) || !Innen(ort.X, b.xMin, b.xMax) || !Innen(ort.Y, b.yMin, b.yMax)) return;

@@ -142,9 +142,9 @@ TEST(CliBefehle, CurveGibtDieIsothermeAlsPunkteDerGleichung) {
 // v = 0 has no pressure.
 TEST(CliBefehle, SurfaceGibtDasGitterDerGleichung) {
   const Json info = StarteJson({"--substance", "Propan", "info"});
-  const std::vector<std::string> auftrag = {"--substance", "Propan", "surface", "1", "--x", "0,1.2",
-                                            "--y",         "300,310", "--nx",    "12", "--ny", "1",
-                                            "--z",         "0,5000"};
+  std::vector<std::string> auftrag = {"--substance", "Propan", "surface", "1"};
+  for (const char* option : {"--x", "0,1.2", "--y", "300,310", "--nx", "12", "--ny", "1", "--z", "0,5000"})
+    auftrag.push_back(option);
   const Json s = StarteJson(auftrag);
   EXPECT_EQ(s["title"].T(), "Druck p(v, T)");
   EXPECT_EQ(s["z_text"].T(), "p / kPa");
@@ -160,9 +160,8 @@ TEST(CliBefehle, SurfaceGibtDasGitterDerGleichung) {
     }
   }
 
-  std::vector<std::string> real = auftrag;
-  real.push_back("--real");
-  const Json r = StarteJson(real);
+  auftrag.push_back("--real");
+  const Json r = StarteJson(auftrag);
   // At 300 K propane's saturated volumes lie near 0.09 and 2 m^3/kmol: 0.3 to 1.2 sit on the plane.
   const double pLV = r["z"][0][3].Z();
   EXPECT_GT(pLV, 500);

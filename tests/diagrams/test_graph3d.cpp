@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quor {
@@ -40,13 +41,14 @@ TEST(Graph3D, FunctionCellsEqualTheStateCalculation) {
   s.Einheiten.EnergieMode = 3;
   s.Einheiten.EnergieFaktor = 1 / s.Stoff.MolMasse;
   const Bereich3D b = Vorgabe(1000, 5000, 120, 240);
-  const std::array<std::pair<int16_t, std::array<int, 2>>, 7> arten{{{art3d::Cp, {ZelleCpL, ZelleCpV}},
-                                                                    {art3d::U, {ZelleUL, ZelleUV}},
-                                                                    {art3d::H, {ZelleHL, ZelleHV}},
-                                                                    {art3d::S, {ZelleSL, ZelleSV}},
-                                                                    {art3d::G, {ZelleGL, ZelleGV}},
-                                                                    {art3d::ExergieU, {ZelleEUL, ZelleEUV}},
-                                                                    {art3d::ExergieH, {ZelleEHL, ZelleEHV}}}};
+  const std::array<std::pair<int16_t, std::array<int, 2>>, 7> arten{
+      {{art3d::Cp, {ZelleCpL, ZelleCpV}},
+       {art3d::U, {ZelleUL, ZelleUV}},
+       {art3d::H, {ZelleHL, ZelleHV}},
+       {art3d::S, {ZelleSL, ZelleSV}},
+       {art3d::G, {ZelleGL, ZelleGV}},
+       {art3d::ExergieU, {ZelleEUL, ZelleEUV}},
+       {art3d::ExergieH, {ZelleEHL, ZelleEHV}}}};
   std::array<Gitter3D, 7> flaechen;
   for (std::size_t a = 0; a < arten.size(); ++a)
     flaechen[a] = FlaecheBerechnen(s, arten[a].first, 2, 2, b, true);
@@ -281,6 +283,22 @@ TEST(Graph3D, CriticalPoint) {
   EXPECT_REL(f.Punkte[0].Ort.Z, seite.s.EOS.vKritEOS, 1e-6);
   ASSERT_TRUE(seite.Bereich(100, 1000, 100, 150, 0, 1)); // far below it
   EXPECT_TRUE(seite.g.Bild().Punkte.empty());
+
+  // On a cp surface the point sits on the spike as the grid draws it, between its cell's corners.
+  ASSERT_TRUE(seite.g.Neu(art3d::Cp));
+  seite.g.KritischerPunkt(true);
+  const Flaeche3D cp = seite.g.Bild();
+  ASSERT_EQ(cp.Punkte.size(), 1u);
+  const Punkt3D& ort = cp.Punkte[0].Ort;
+  const auto i =
+      static_cast<std::size_t>(std::upper_bound(cp.X.begin(), cp.X.end(), ort.X) - cp.X.begin() - 1);
+  const auto j =
+      static_cast<std::size_t>(std::upper_bound(cp.Y.begin(), cp.Y.end(), ort.Y) - cp.Y.begin() - 1);
+  const std::array<double, 4> ecken{cp.Z[ZellIndex(cp, j, i)], cp.Z[ZellIndex(cp, j, i + 1)],
+                                    cp.Z[ZellIndex(cp, j + 1, i)], cp.Z[ZellIndex(cp, j + 1, i + 1)]};
+  EXPECT_GE(ort.Z, *std::min_element(ecken.begin(), ecken.end()));
+  EXPECT_LE(ort.Z, *std::max_element(ecken.begin(), ecken.end()));
+  EXPECT_LE(ort.Z, cp.AchseZ.Max);
 }
 
 // Lines along rows and columns follow the grid; lines of equal height keep their level and run on
