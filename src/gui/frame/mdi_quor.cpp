@@ -9,6 +9,7 @@
 #include "gui/basis/symbole.h"
 #include "gui/calc/rechnung_steuerung.h"
 #include "gui/diagrams/graph2d_steuerung.h"
+#include "gui/diagrams/graph3d_steuerung.h"
 #include "gui/frame/projekt_dialog_dienste.h"
 #include "gui/frame/rahmen_dienste.h"
 #include "gui/substance/modell_fenster.h"
@@ -43,6 +44,7 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
     : QMainWindow(eltern), state_(state), ui_(ui), mdi_(new QMdiArea(this)) {
   rechnung_ = new RechnungSteuerung(state, ui, mdi_, this);
   graf2d_ = new Graph2DSteuerung(state, ui, mdi_, this);
+  graf3d_ = new Graph3DSteuerung(state, ui, mdi_, this);
   logik_ = std::make_unique<RahmenLogik>(state, ui, Dienste());
   BefehleRegistrieren();
   setObjectName("mdiQUOR");
@@ -96,6 +98,7 @@ void mdiQUOR::BefehleRegistrieren() {
       r, [this] { return graf2d_->Seite() != nullptr; },
       [this](const std::string& name, int index) { graf2d_->Einfuegen(name, index); });
   connect(graf2d_, &Graph2DSteuerung::seiteGeaendert, this, &mdiQUOR::Aktualisieren);
+  Graph3DHandlerSetzen(r, [this](int index) { graf3d_->Menue(index); });
   r.Handler("frmReferenz", [this](int) { rechnung_->ReferenzZeigen(); });
   r.Handler("mnuStoffwahl", [this](int) { StoffWahlZeigen(); });
   r.Handler("mnuModel", [this](int) { ModellFensterZeigen(false); });
@@ -272,11 +275,12 @@ void mdiQUOR::ModellFensterZeigen(bool neuAufbauen) {
   Aktualisieren();
 }
 
-// The windows of the former substance: the calculation's page with its companions, the diagram page,
+// The windows of the former substance: the calculation's page with its companions, the diagram pages,
 // the other child windows and the text windows close; the model window waits hidden for its rebuild.
 void mdiQUOR::StoffFensterSchliessen() {
   rechnung_->SeiteSchliessen();
   graf2d_->SeiteSchliessen();
+  graf3d_->SeiteSchliessen();
   for (QMdiSubWindow* fenster : mdi_->subWindowList())
     if (fenster != modellFenster_) fenster->close();
   for (TextFenster* text : findChildren<TextFenster*>())

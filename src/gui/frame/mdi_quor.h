@@ -21,6 +21,7 @@ namespace quor::ui {
 
 class Oberflaeche;
 class Graph2DSteuerung;
+class Graph3DSteuerung;
 class ModellFenster;
 class RechnungSteuerung;
 class StoffWahlFenster;
@@ -50,6 +51,7 @@ public:
   ModellFenster* Modelle() const { return modell_; }
   RechnungSteuerung* Rechnung() const { return rechnung_; }
   Graph2DSteuerung* Graf2D() const { return graf2d_; }
+  Graph3DSteuerung* Graf3D() const { return graf3d_; }
 
   // Enabled entries and buttons, status bar panels and Ampel from the project state.
   void Aktualisieren();
@@ -86,6 +88,7 @@ private:
   QMdiSubWindow* modellFenster_ = nullptr;
   RechnungSteuerung* rechnung_ = nullptr; // the windows of the state calculations
   Graph2DSteuerung* graf2d_ = nullptr;    // the 2D diagram page
+  Graph3DSteuerung* graf3d_ = nullptr;    // the 3D diagram page
 };
 
 } // namespace quor::ui
