@@ -24,12 +24,22 @@ namespace quor::ui {
 
 namespace {
 
-QColor Farbe(const RGBFarbe& f, int alpha = 255) {
-  return QColor(f.R, f.G, f.B, alpha);
+QColor Farbe(const RGBFarbe& f) {
+  return QColor(f.R, f.G, f.B);
+}
+
+// A transparent surface shows in colours faded this far toward white: the chart's own alpha
+// blending garbles the surface on software OpenGL, so the colours stay opaque.
+constexpr double Blaesse = 0.55;
+
+QColor Blass(const QColor& c, bool transparent) {
+  if (!transparent) return c;
+  const auto weiss = [](int x) { return static_cast<int>(std::lround(x + Blaesse * (255 - x))); };
+  return QColor(weiss(c.red()), weiss(c.green()), weiss(c.blue()));
 }
 
 // Colour of the zones from the lowest (0) to the highest (1) part of the height range.
-QColor Zone(double t, int alpha) {
+QColor Zone(double t) {
   static const std::array<QColor, 5> stufen{QColor(30, 40, 200), QColor(0, 170, 210), QColor(40, 180, 60),
                                             QColor(240, 220, 0), QColor(220, 30, 20)};
   const double s = std::clamp(t, 0.0, 1.0) * (stufen.size() - 1);
@@ -38,19 +48,20 @@ QColor Zone(double t, int alpha) {
   const QColor& a = stufen[k];
   const QColor& b = stufen[k + 1];
   const auto mische = [w](int x, int y) { return static_cast<int>(std::lround(x + w * (y - x))); };
-  return QColor(mische(a.red(), b.red()), mische(a.green(), b.green()), mische(a.blue(), b.blue()), alpha);
+  return QColor(mische(a.red(), b.red()), mische(a.green(), b.green()), mische(a.blue(), b.blue()));
 }
 
 // The colour over the height range: zones or the surface colour, with dark bands at every tenth
 // when contours are asked for.
-QLinearGradient Verlauf(const Flaeche3D& f, int alpha) {
-  const auto farbe = [&](double t) { return f.Anzeige.Zonen ? Zone(t, alpha) : Farbe(f.Farbe, alpha); };
+QLinearGradient Verlauf(const Flaeche3D& f) {
+  const bool blass = f.Anzeige.Transparent;
+  const auto farbe = [&](double t) { return Blass(f.Anzeige.Zonen ? Zone(t) : Farbe(f.Farbe), blass); };
   QLinearGradient v(0, 0, 1, 0);
   for (int k = 0; k <= 10; ++k)
     v.setColorAt(k / 10.0, farbe(k / 10.0));
   if (f.Anzeige.Hoehenlinien) {
     constexpr double halb = 0.003; // half width of a contour band
-    const QColor linie(20, 20, 20, alpha);
+    const QColor linie = Blass(QColor(20, 20, 20), blass);
     for (int k = 1; k < 10; ++k) {
       const double t = k / 10.0;
       v.setColorAt(t - 2 * halb, farbe(t - 2 * halb));
@@ -208,9 +219,8 @@ bool Diagramm3DFlaeche::Zeige(const Flaeche3D& f) {
   if (a.Netz) modus |= QSurface3DSeries::DrawWireframe;
   reihe_->setDrawMode(modus);
   reihe_->setFlatShadingEnabled(!a.Schattiert);
-  const int alpha = a.Transparent ? 128 : 255;
-  reihe_->setBaseColor(Farbe(f.Farbe, alpha));
-  reihe_->setBaseGradient(Verlauf(f, alpha));
+  reihe_->setBaseColor(Blass(Farbe(f.Farbe), a.Transparent));
+  reihe_->setBaseGradient(Verlauf(f));
   reihe_->setColorStyle(a.Zonen || a.Hoehenlinien ? Q3DTheme::ColorStyleRangeGradient
                                                   : Q3DTheme::ColorStyleUniform);
   reihe_->setName(QString::fromStdString(f.Titel));

@@ -3,9 +3,9 @@
 // vertical Y axis. Cells that could not be computed are drawn at the height of a valid neighbour.
 // Solid and mesh become the series' draw mode, shading its smooth or flat shading, zones a colour
 // gradient over the height range, contours dark bands at every tenth of that range, transparency
-// the alpha of the surface colours; labelled points become a ball with the label above it. Each
-// iso-line becomes a narrow ribbon of its own series lying on the surface along the line. The left
-// mouse button moves, spins or scales the scene.
+// colours faded toward white (the chart's alpha blending is not to be trusted); labelled points become a ball
+// with the label above it. Each iso-line becomes a narrow ribbon of its own series lying on the surface along
+// the line. The left mouse button moves, spins or scales the scene.
 #pragma once
 
 #include "diagrams/diagramm_bild.h"

@@ -26,7 +26,7 @@ namespace quor::ui {
 
 namespace {
 
-constexpr int LeistenBreite = 250;
+constexpr int LeistenBreite = 262;
 // Iso-lines per axis at most.
 constexpr int MaxIsolinien = 40;
 
@@ -78,6 +78,7 @@ QSpinBox* Zaehler(const char* name, QWidget* eltern) {
   z->setObjectName(name);
   z->setRange(0, MaxIsolinien);
   z->setValue(0);
+  z->setMaximumWidth(56);
   return z;
 }
 
