@@ -148,6 +148,7 @@ OptionenAktionen frmQOptions::cmdOK() {
   const EinheitenGruppe& e = s_.Einheiten;
   const bool geaendert = e.VolumenFaktor != volumenVorher || e.EnergieFaktor != energieVorher;
   a.Graph2DLoeschen = geaendert && chkUnloadGraph2D;
+  a.EinheitenGeaendert = geaendert;
 
   o.PunktDichte = static_cast<int16_t>(std::clamp(Slider1_punktdichte, SliderMin, SliderMax));
   s_.Rechnung.StapelModus = OptCalcMode == StapelEintrag;

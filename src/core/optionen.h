@@ -52,7 +52,8 @@ struct OptionenTexte {
 
 // What the view does after cmdOK.
 struct OptionenAktionen {
-  bool Graph2DLoeschen = false; // the units changed: the open 2D diagram goes
+  bool Graph2DLoeschen = false;    // the units changed: the open 2D diagram goes
+  bool EinheitenGeaendert = false; // the display factors changed: a 3D surface in the old units goes
   // New texts of the first entries of the calculation menu: (entry of mnuCalc, text).
   std::vector<std::pair<int, std::string>> CalcMenueTexte;
 };

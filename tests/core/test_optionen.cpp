@@ -64,14 +64,18 @@ TEST(Optionen, ReducedValuesWithoutCriticalTemperatureAreRefusedAndUnitsStay) {
   EXPECT_FALSE(o.dlg->chkReduziert);
 }
 
+// Changed factors clear the 2D diagram only with its box, a 3D surface in the old units always.
 TEST(Optionen, ChangedFactorsClearTheDiagramOnlyWithItsBox) {
   Optionen o;
-  EXPECT_FALSE(o.dlg->cmdOK().Graph2DLoeschen); // nothing changed
+  const OptionenAktionen gleich = o.dlg->cmdOK(); // nothing changed
+  EXPECT_FALSE(gleich.Graph2DLoeschen || gleich.EinheitenGeaendert);
   o.dlg->optMolarSpez = 1;
   EXPECT_TRUE(o.dlg->cmdOK().Graph2DLoeschen);
   o.dlg->optMolarSpez = 0;
   o.dlg->chkUnloadGraph2D = false;
-  EXPECT_FALSE(o.dlg->cmdOK().Graph2DLoeschen);
+  const OptionenAktionen zurueck = o.dlg->cmdOK();
+  EXPECT_FALSE(zurueck.Graph2DLoeschen);
+  EXPECT_TRUE(zurueck.EinheitenGeaendert);
 }
 
 TEST(Optionen, CalculationModeRenamesTheFirstCalculationEntries) {

@@ -2,6 +2,7 @@
 
 #include "core/projekt_datei.h"
 #include "gui/diagrams/graph2d_steuerung.h"
+#include "gui/diagrams/graph3d_steuerung.h"
 #include "gui/frame/mdi_quor.h"
 #include "gui/frame/optionen_fenster.h"
 #include "gui/frame/projekt_dialog.h"
@@ -21,6 +22,7 @@ void MenueTexteSetzen(mdiQUOR& rahmen, const OptionenAktionen& a) {
     rahmen.Logik().Befehle.SetzeText("mnuCalc", eintrag, text);
   // New units: the diagram's axes no longer fit them.
   if (a.Graph2DLoeschen) rahmen.Graf2D()->SeiteSchliessen();
+  if (a.EinheitenGeaendert) rahmen.Graf3D()->SeiteSchliessen();
   rahmen.Aktualisieren();
 }
 
