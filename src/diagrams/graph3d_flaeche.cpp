@@ -108,16 +108,26 @@ double Zellrechner::Druck(double v, double T) {
   return err == 0 ? p : KeinWert;
 }
 
-// v(p, T) of the phase the solver finds.
-double Zellrechner::Volumen(double p, double T) {
+// The volume of the phase the solver finds at (p, T): the liquid root when it says liquid alone,
+// else the vapour root; a p of 0 taken as the smallest pressure. False when it finds none.
+bool Zellrechner::PhasenVolumen(double& p, double T, double& v, bool& fluessig) {
   if (p == 0) p = KleinsterDruck;
   int16_t region = s_.EOS.Gebiet, nRoots = 0, err = 0;
   bool istL = false, istV = false;
   double rhoV = 0, rhoL = 0, vV = 0, vL = 0, imbalance = 0, A = 0, B = 0;
   std::string meldung;
   VzuTP(s_, T, p, region, istL, istV, rhoV, rhoL, vV, vL, nRoots, imbalance, A, B, meldung, err);
-  if (err != 0) return KeinWert;
-  const double v = istL && !istV ? vL : vV;
+  if (err != 0) return false;
+  fluessig = istL && !istV;
+  v = fluessig ? vL : vV;
+  return true;
+}
+
+// v(p, T) of the phase the solver finds.
+double Zellrechner::Volumen(double p, double T) {
+  double v = 0;
+  bool fluessig = false;
+  if (!PhasenVolumen(p, T, v, fluessig)) return KeinWert;
   return v > 0 ? v : KeinWert;
 }
 
@@ -131,15 +141,10 @@ double Zellrechner::Temperatur(double v, double p) {
 
 // The caloric function of the phase the solver finds at (p, T), in display units.
 double Zellrechner::Funktion(double p, double T) {
-  if (p == 0) p = KleinsterDruck;
-  int16_t region = s_.EOS.Gebiet, nRoots = 0, err = 0;
-  bool istL = false, istV = false;
-  double rhoV = 0, rhoL = 0, vV = 0, vL = 0, imbalance = 0, A = 0, B = 0;
-  std::string meldung;
-  VzuTP(s_, T, p, region, istL, istV, rhoV, rhoL, vV, vL, nRoots, imbalance, A, B, meldung, err);
-  if (err != 0) return KeinWert;
-  const bool fluessig = istL && !istV;
-  const double v = fluessig ? vL : vV;
+  double v = 0;
+  bool fluessig = false;
+  if (!PhasenVolumen(p, T, v, fluessig)) return KeinWert;
+  int16_t err = 0;
   KalorischeWerte w;
   ThermoFunktionen(s_, T, p, v, fluessig ? PhaseL : PhaseV, w, err);
   if (err != 0) return KeinWert;

@@ -17,6 +17,7 @@ public:
 
 private:
   double Druck(double v, double T);
+  bool PhasenVolumen(double& p, double T, double& v, bool& fluessig);
   double Volumen(double p, double T);
   double Temperatur(double v, double p);
   double Funktion(double p, double T);

@@ -3,6 +3,7 @@
 #include "diagrams/diagramm_befehle.h"
 #include "diagrams/katalog.h"
 #include "dienste/oberflaeche.h"
+#include "gui/diagrams/diagramm_seite.h"
 
 #include <QMdiArea>
 
@@ -41,12 +42,7 @@ Graph2DFenster* Graph2DSteuerung::SeiteHolen() {
     return seite_;
   }
   seite_ = new Graph2DFenster(s_, ui_);
-  fenster_ = flaeche_->addSubWindow(seite_);
-  fenster_->setObjectName("frmQGraph2DFenster");
-  fenster_->setWindowIcon(rahmen_->windowIcon());
-  fenster_->setAttribute(Qt::WA_DeleteOnClose);
-  // The page fills the work area: the chart wants every pixel it can have.
-  fenster_->setGeometry(QRect(QPoint(0, 0), flaeche_->viewport()->size()));
+  fenster_ = DiagrammSeiteEinsetzen(flaeche_, seite_, "frmQGraph2DFenster", rahmen_->windowIcon());
   zerstoert_ = connect(seite_, &QObject::destroyed, this, [this] {
     seite_ = nullptr;
     fenster_ = nullptr;

@@ -1,6 +1,7 @@
 #include "gui/diagrams/graph3d_steuerung.h"
 
 #include "diagrams/graph3d.h"
+#include "gui/diagrams/diagramm_seite.h"
 
 #include <QMdiArea>
 
@@ -33,12 +34,7 @@ Graph3DFenster* Graph3DSteuerung::SeiteHolen() {
     return seite_;
   }
   seite_ = new Graph3DFenster(s_, ui_);
-  fenster_ = flaeche_->addSubWindow(seite_);
-  fenster_->setObjectName("frmGraph3DFenster");
-  fenster_->setWindowIcon(rahmen_->windowIcon());
-  fenster_->setAttribute(Qt::WA_DeleteOnClose);
-  // The page fills the work area, as the 2D page does.
-  fenster_->setGeometry(QRect(QPoint(0, 0), flaeche_->viewport()->size()));
+  fenster_ = DiagrammSeiteEinsetzen(flaeche_, seite_, "frmGraph3DFenster", rahmen_->windowIcon());
   zerstoert_ = connect(seite_, &QObject::destroyed, this, [this] {
     seite_ = nullptr;
     fenster_ = nullptr;
