@@ -37,6 +37,22 @@ struct Programm {
     fenster->Befehl("mnuData_OpenBank", 0)->trigger();
     return fenster->StoffWahl();
   }
+
+  // The frame at its first size on a screen of 1280 x 800 with the substance of that list name
+  // taken (Enter in the list) with its default models.
+  void StoffWaehlen(const char* stoff) {
+    fenster->resize(1180, 740);
+    QListWidget* liste = DatenbankOeffnen()->Liste();
+    // A row shows number, formula and name.
+    for (int i = 0; i < liste->count(); ++i)
+      if (liste->item(i)->text().trimmed().endsWith(QString(" ") + stoff)) {
+        liste->setCurrentRow(i);
+        break;
+      }
+    Taste(liste, Qt::Key_Return);
+    EXPECT_EQ(s.Stoff.StoffName, stoff);
+    ui.protokoll.clear();
+  }
 };
 
 struct RechnungsRahmen : Programm {

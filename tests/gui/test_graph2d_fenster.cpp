@@ -18,19 +18,7 @@ namespace {
 
 // The frame with a substance of the database chosen by its name, with its default models.
 struct Diagramme : test::Programm {
-  explicit Diagramme(const char* stoff) {
-    fenster->resize(1180, 740); // its first size on a screen of 1280 x 800
-    QListWidget* liste = DatenbankOeffnen()->Liste();
-    // A row shows number, formula and name.
-    for (int i = 0; i < liste->count(); ++i)
-      if (liste->item(i)->text().trimmed().endsWith(QString(" ") + stoff)) {
-        liste->setCurrentRow(i);
-        break;
-      }
-    test::Taste(liste, Qt::Key_Return);
-    EXPECT_EQ(s.Stoff.StoffName, stoff);
-    ui.protokoll.clear();
-  }
+  explicit Diagramme(const char* stoff) { StoffWaehlen(stoff); }
 
   Graph2DFenster* Seite() { return fenster->Graf2D()->Seite(); }
 

@@ -41,18 +41,7 @@ struct Flaechen : test::Programm {
     return QUOR_PROGRAMM_VERZEICHNIS;
   }
 
-  explicit Flaechen(const char* stoff) : test::Programm(Plattform()) {
-    fenster->resize(1180, 740); // its first size on a screen of 1280 x 800
-    QListWidget* liste = DatenbankOeffnen()->Liste();
-    for (int i = 0; i < liste->count(); ++i)
-      if (liste->item(i)->text().trimmed().endsWith(QString(" ") + stoff)) {
-        liste->setCurrentRow(i);
-        break;
-      }
-    test::Taste(liste, Qt::Key_Return);
-    EXPECT_EQ(s.Stoff.StoffName, stoff);
-    ui.protokoll.clear();
-  }
+  explicit Flaechen(const char* stoff) : test::Programm(Plattform()) { StoffWaehlen(stoff); }
 
   Graph3DFenster* Seite() { return fenster->Graf3D()->Seite(); }
 
