@@ -4,7 +4,7 @@
 #pragma once
 
 #include "calc/ergebnis_typen.h"
-#include "cli/json.h"
+#include "core/json_schreiber.h"
 #include "core/project_state.h"
 #include "dienste/skript_oberflaeche.h"
 

@@ -5,7 +5,7 @@
 
 #include "calc/ergebnis_seite.h"
 #include "calc/rechnungs_ablauf.h"
-#include "cli/json.h"
+#include "core/json_schreiber.h"
 #include "cli/sitzung.h"
 
 #include <iosfwd>

@@ -15,6 +15,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quor {
@@ -67,6 +68,23 @@ enum class ZeichenErgebnis {
   Ausserhalb, // no point inside the axes: the diagram is unchanged
   Fehler,     // a result code of the curve engine or a fault: nothing drawn
   KeinePunkte // the curve has no point
+};
+
+// Everything the page shows and keeps, as a diagram file holds it: curves with their slots, point
+// sets, marks, labels, legend, swap state, page colour, the colour of the next curve, and the current
+// and last-set axis ranges (displayed units, as shown: exchanged when swapped).
+struct Graph2DZustand {
+  DiagrammAuftrag Auftrag;
+  std::vector<std::pair<int, Graph2DKurve>> Kurven; // slot (0 to MaxKurven - 1) and curve
+  std::vector<Graph2DPunktSatz> PunktSaetze;
+  std::vector<Graph2DMarke> Marken;
+  std::vector<Beschriftung2D> Texte;
+  RGBFarbe FarbVorwahl{0, 0, 255};
+  RGBFarbe Seitenfarbe{255, 255, 255};
+  bool Legende = true;
+  bool Gekippt = false;
+  std::array<double, 4> Bereich{0, 1, 0, 1};
+  std::array<double, 4> Einstellung{0, 1, 0, 1};
 };
 
 // What the status line says for a mouse position in data coordinates.
@@ -137,6 +155,15 @@ public:
   bool cmdExternPoints(const std::vector<double>& X, const std::vector<double>& Y, PunktQuelle quelle,
                        const std::string& legende);
 
+  // The page's complete state, and a state put in its place (a loaded diagram file; the reader has
+  // checked slots, counts and ranges).
+  Graph2DZustand Zustand() const;
+  void ZustandSetzen(const Graph2DZustand& z);
+
+  // The colour of the drawing sheet (white unless chosen).
+  void SeitenfarbeSetzen(RGBFarbe f);
+  RGBFarbe Seitenfarbe() const { return seitenfarbe_; }
+
   // The look of a curve (the styling dialog's part that is needed).
   void Gestalten(int slot, RGBFarbe farbe, LinienArt linie, double breite, PunktSymbol symbol);
   // Writes each curve's parameter at its end (isotherms, isobars, isochors).
@@ -203,6 +230,7 @@ private:
   std::vector<Graph2DMarke> marken_;
   std::vector<Beschriftung2D> texte_;
   RGBFarbe farbVorwahl_{0, 0, 255};
+  RGBFarbe seitenfarbe_{255, 255, 255};
   bool legende_ = true;
   bool gekippt_ = false;
   double xmin_ = 0, xmax_ = 1, ymin_ = 0, ymax_ = 1;

@@ -61,6 +61,23 @@ struct Gitter3D {
 // preset pair. Art 1 to 3 with `reales` put a cell inside the two-phase region on the saturation plane.
 Gitter3D FlaecheBerechnen(ProjectState& s, int16_t art, int nx, int ny, const Bereich3D& b, bool reales);
 
+// Everything a 3D page keeps, as a diagram file holds it: the art, the real-behaviour answer, the
+// stored limits and those on show, the grid resolution and the computed grid, the dressing, the
+// iso-line counts, and the camera's turn and zoom.
+struct Graph3DZustand {
+  int16_t Art = 0;
+  bool Reales = true;
+  AchsenSatz3D Satz;
+  Bereich3D Bereich;
+  int NX = 60, NY = 60;
+  Gitter3D Gitter;
+  Anzeige3D Anzeige;
+  bool KritischerPunkt = false;
+  std::array<int, 3> IsoAnzahl{}; // Z, T (rows), v or p (columns)
+  bool HalbeT = false, HalbeV = false;
+  Ansicht3D Ansicht;
+};
+
 class frmGraph3D {
 public:
   frmGraph3D(ProjectState& s, ui::Oberflaeche& ui);
@@ -87,6 +104,11 @@ public:
   // Iso-lines on the surface: `anzahl` lines of constant Z, T (rows) or v/p (columns); `halbe`
   // halves their count.
   void Isolinien(int anzahlZ, int anzahlT, int anzahlV, bool halbeT, bool halbeV);
+
+  // The page's state with the camera `ansicht` the view reports, and a state put in its place (a
+  // loaded diagram file, checked by its reader): the grid is shown as saved, not computed anew.
+  Graph3DZustand Zustand(const Ansicht3D& ansicht) const;
+  void ZustandSetzen(const Graph3DZustand& z);
 
   // The picture for the adapter; the warning text under the title for Art 4.
   Flaeche3D Bild() const;

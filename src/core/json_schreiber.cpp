@@ -1,42 +1,49 @@
-#include "cli/json.h"
+#include "core/json_schreiber.h"
 
 #include "core/text_kodierung.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 
-namespace quor::cli {
+namespace quor {
 
 namespace {
 
 // The fewest significant digits that read back to the same value; numbers of ordinary size are
-// written without an exponent ("100", not "1e+02").
-template <typename Zurueck> std::string Kuerzeste(double x, int maxStellen, Zurueck zurueck) {
-  char puffer[48];
+// written without an exponent ("100", not "1e+02"). Written and read back independently of the
+// C locale, so that a German desktop does not turn the point into a comma.
+template <typename T> std::string Kuerzeste(T x, int maxStellen) {
+  char puffer[64];
+  const auto schreibe = [&puffer](T wert, int stellen) {
+    const auto e = std::to_chars(puffer, puffer + sizeof puffer, wert, std::chars_format::general, stellen);
+    return std::string(puffer, e.ptr);
+  };
   int stellen = 1;
-  for (; stellen < maxStellen; ++stellen) {
-    std::snprintf(puffer, sizeof puffer, "%.*g", stellen, x);
-    if (zurueck(puffer)) break;
+  std::string text;
+  for (; stellen <= maxStellen; ++stellen) {
+    text = schreibe(x, stellen);
+    T zurueck{};
+    std::from_chars(text.data(), text.data() + text.size(), zurueck);
+    if (zurueck == x) break;
   }
-  std::snprintf(puffer, sizeof puffer, "%.*g", stellen, x);
-  const std::string text = puffer;
+  stellen = std::min(stellen, maxStellen);
   if (text.find('e') == std::string::npos || x == 0) return text;
-  const int exponent = static_cast<int>(std::floor(std::log10(std::fabs(x))));
+  const int exponent = static_cast<int>(std::floor(std::log10(std::fabs(static_cast<double>(x)))));
   if (exponent < -5 || exponent >= 17) return text;
-  std::snprintf(puffer, sizeof puffer, "%.*g", std::max(stellen, exponent + 1), x);
-  return puffer;
+  return schreibe(x, std::max(stellen, exponent + 1));
 }
 
 } // namespace
 
 std::string KurzText(double x) {
-  return Kuerzeste(x, 17, [x](const char* t) { return std::strtod(t, nullptr) == x; });
+  return Kuerzeste(x, 17);
 }
 
 std::string KurzText(float x) {
-  return Kuerzeste(static_cast<double>(x), 9, [x](const char* t) { return std::strtof(t, nullptr) == x; });
+  return Kuerzeste(x, 9);
 }
 
 std::string JsonText(std::string_view text) {
@@ -153,4 +160,4 @@ void JsonSchreiber::Null() {
   text_ += "null";
 }
 
-} // namespace quor::cli
+} // namespace quor

@@ -1,5 +1,5 @@
-// A small JSON writer for the machine-readable output: objects, arrays, texts and numbers, indented
-// by two blanks; arrays of numbers may stand on one line.
+// A small JSON writer for the machine-readable output of the command-line programs and the diagram
+// files: objects, arrays, texts and numbers, indented by two blanks; arrays of numbers may stand on one line.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quor::cli {
+namespace quor {
 
 class JsonSchreiber {
 public:
@@ -66,4 +66,4 @@ std::string JsonText(std::string_view text);
 std::string KurzText(double x);
 std::string KurzText(float x);
 
-} // namespace quor::cli
+} // namespace quor
