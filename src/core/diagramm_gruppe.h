@@ -3,6 +3,8 @@
 // diagram page.
 #pragma once
 
+#include <string>
+
 namespace quor {
 
 struct DiagrammGruppe {
@@ -12,6 +14,10 @@ struct DiagrammGruppe {
   double pSattVorgabe = 0;       // p(LV) at the request's T by the vapour-pressure equation
   double TSattVorgabe = 0;       // T(LV) at the request's p
   bool KurveAbgebrochen = false; // the last isochor was cut short at the coexistence curve
+  // Session state of the diagram files: the one-time hint of loading was shown; the folder of the
+  // last diagram, picture or point file (empty: the program directory).
+  bool OC2HinweisGezeigt = false;
+  std::string DateiVerzeichnis;
 };
 
 } // namespace quor

@@ -22,10 +22,10 @@ bool mnuSaveOC2(ProjectState& s, ui::Oberflaeche& ui, const frmQGraph2D& d);
 // substance, models, normalisation or units is loaded and the differences are told.
 bool mnuLoadOC2(ProjectState& s, ui::Oberflaeche& ui, frmQGraph2D& d);
 
-// The same pair for the 3D page; `ansicht` is the camera the view reports. Loading returns the
-// camera of the file for the view, or nothing when the page was left as it was.
+// The same pair for the 3D page; `ansicht` is the camera the view reports. A loaded page shows the
+// file's camera in its picture.
 bool mnuSaveOC3(ProjectState& s, ui::Oberflaeche& ui, const frmGraph3D& d, const Ansicht3D& ansicht);
-std::optional<Ansicht3D> mnuLoadOC3(ProjectState& s, ui::Oberflaeche& ui, frmGraph3D& d);
+bool mnuLoadOC3(ProjectState& s, ui::Oberflaeche& ui, frmGraph3D& d);
 
 // mnuAddPunkte: an .XY file becomes a point set of the page through cmdExternPoints (the 12-set
 // limit and its message first). False when cancelled, refused or unreadable.

@@ -58,6 +58,11 @@ Groesse Schlicht(Groesse g) {
 
 } // namespace
 
+std::string PunktSaetzeVoll() {
+  return "Es dürfen max. " + std::to_string(MaxPunktSaetze) +
+         " Punktsätze geladen werden.\r\nLöschen Sie evtl. die vorhandenen Messpunkte.";
+}
+
 const char* QuellenText(PunktQuelle q) {
   switch (q) {
   case PunktQuelle::ExpDaten:
@@ -80,6 +85,8 @@ void frmQGraph2D::Neu(const DiagrammAuftrag& a) {
   texte_.clear();
   gekippt_ = false;
   legende_ = true;
+  format_ = {};
+  gitter_ = {false, false};
   xmin_ = a.Xmin, xmax_ = a.Xmax, ymin_ = a.Ymin, ymax_ = a.Ymax;
   if (!BereichGueltig(xmin_, xmax_)) xmin_ = 0, xmax_ = 1;
   if (!BereichGueltig(ymin_, ymax_)) ymin_ = 0, ymax_ = 1;
@@ -340,6 +347,8 @@ bool frmQGraph2D::cmdChangeXY() {
   std::swap(xmax_, ymax_);
   std::swap(einstellung_[0], einstellung_[2]);
   std::swap(einstellung_[1], einstellung_[3]);
+  std::swap(format_[0], format_[1]);
+  std::swap(gitter_[0], gitter_[1]);
   gekippt_ = !gekippt_;
   Geaendert();
   return true;
@@ -421,10 +430,7 @@ bool frmQGraph2D::cmdExternKurve(const std::vector<double>& X, const std::vector
 bool frmQGraph2D::cmdExternPoints(const std::vector<double>& X, const std::vector<double>& Y,
                                   PunktQuelle quelle, const std::string& legende) {
   if (static_cast<int>(punktSaetze_.size()) >= MaxPunktSaetze) {
-    ui_.Meldung("Maximal " + std::to_string(MaxPunktSaetze) +
-                    " Punktsätze möglich\r\n"
-                    "Löschen Sie vorhandene Punktsätze",
-                TitelNichtMoeglich, ui::Symbol::Ausruf);
+    ui_.Meldung(PunktSaetzeVoll(), TitelNichtMoeglich, ui::Symbol::Ausruf);
     return false;
   }
   Graph2DPunktSatz satz;

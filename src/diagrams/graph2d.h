@@ -38,6 +38,9 @@ struct Graph2DKurve {
   bool Konnode = false;              // a tie line: every point of it is a two-phase state
 };
 
+// The message when a page holds its 12 point sets.
+std::string PunktSaetzeVoll();
+
 // Where a point set comes from.
 enum class PunktQuelle { XYEditor, ExpDaten, Fitting };
 
@@ -81,6 +84,9 @@ struct Graph2DZustand {
   std::vector<Beschriftung2D> Texte;
   RGBFarbe FarbVorwahl{0, 0, 255};
   RGBFarbe Seitenfarbe{255, 255, 255};
+  // Tick label patterns ("0.000", "0.0E+00"; empty: default text) and grids of the X and Y axis as shown.
+  std::array<std::string, 2> Format;
+  std::array<bool, 2> Gitter{false, false};
   bool Legende = true;
   bool Gekippt = false;
   std::array<double, 4> Bereich{0, 1, 0, 1};
@@ -163,6 +169,8 @@ public:
   // The colour of the drawing sheet (white unless chosen).
   void SeitenfarbeSetzen(RGBFarbe f);
   RGBFarbe Seitenfarbe() const { return seitenfarbe_; }
+  // The number format and grid of the shown X (0) or Y (1) axis; they follow the axes when swapped.
+  void AchsenStil(int achse, const std::string& format, bool gitter);
 
   // The look of a curve (the styling dialog's part that is needed).
   void Gestalten(int slot, RGBFarbe farbe, LinienArt linie, double breite, PunktSymbol symbol);
@@ -231,6 +239,8 @@ private:
   std::vector<Beschriftung2D> texte_;
   RGBFarbe farbVorwahl_{0, 0, 255};
   RGBFarbe seitenfarbe_{255, 255, 255};
+  std::array<std::string, 2> format_;
+  std::array<bool, 2> gitter_{false, false};
   bool legende_ = true;
   bool gekippt_ = false;
   double xmin_ = 0, xmax_ = 1, ymin_ = 0, ymax_ = 1;

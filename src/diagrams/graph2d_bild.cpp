@@ -33,11 +33,11 @@ std::string MitEinheit(double wert, const std::string& einheit) {
 }
 
 // T, p, v of a point in engine units, as far as the curve's parameter and the axes give them.
-struct Zustand {
+struct Punktzustand {
   std::optional<double> T, p, v;
 };
 
-void AusAchse(Zustand& z, Groesse g, double wert, const ProjectState& s) {
+void AusAchse(Punktzustand& z, Groesse g, double wert, const ProjectState& s) {
   const EinheitenGruppe& e = s.Einheiten;
   switch (g) {
   case Groesse::T:
@@ -104,8 +104,11 @@ Diagramm2D frmQGraph2D::Bild() const {
   d.AchseY.Min = ymin_, d.AchseY.Max = ymax_;
   d.AchseX.Titel = gekippt_ ? auftrag_.YText : auftrag_.XText;
   d.AchseY.Titel = gekippt_ ? auftrag_.XText : auftrag_.YText;
+  d.AchseX.Format = format_[0], d.AchseY.Format = format_[1];
+  d.AchseX.Gitter = gitter_[0], d.AchseY.Gitter = gitter_[1];
   d.Kopf = auftrag_.Titel;
   d.LegendeSichtbar = legende_;
+  d.Seitenfarbe = seitenfarbe_;
   return d;
 }
 
@@ -147,7 +150,7 @@ MausInfo frmQGraph2D::Maus(double x, double y, double toleranzX, double toleranz
   if (!NaechsterPunkt(x, y, toleranzX, toleranzY, slot, index)) return info;
   const Graph2DKurve& k = kurven_[static_cast<std::size_t>(slot)];
   const Kurvenpunkt& q = k.Punkte[index];
-  Zustand z;
+  Punktzustand z;
   switch (k.Auftrag.Klasse) {
   case klasse::Isotherme:
     z.T = q.Z;

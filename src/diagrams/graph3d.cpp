@@ -176,6 +176,7 @@ bool frmGraph3D::Neu(int16_t art) {
   ersteZeichnung_ = true;
   linien_.clear();
   isoAnzahl_ = {};
+  ansicht_.reset();
   return Rechnen();
 }
 

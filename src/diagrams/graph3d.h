@@ -9,6 +9,7 @@
 #include "dienste/oberflaeche.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -135,6 +136,7 @@ private:
   std::array<int, 3> isoAnzahl_{}; // Z, T (rows), v or p (columns)
   bool halbeT_ = false, halbeV_ = false;
   std::vector<Marke3D> marken_;
+  std::optional<Ansicht3D> ansicht_; // the camera of a loaded file, until the next new surface
   int stand_ = 0;
 };
 

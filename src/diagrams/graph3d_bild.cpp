@@ -279,6 +279,7 @@ Flaeche3D frmGraph3D::Bild() const {
   f.AchseZ = ZAchse(g, bereich_, t.Z);
   // The p(v, T) surface is seen from the vapour side, where its two-phase plane and the loops lie open.
   if (art_ == art3d::Druck) f.Ansicht.Horizontal = -50;
+  if (ansicht_) f.Ansicht = *ansicht_;
   // An invalid cell keeps a finite height; the mask tells the chart to leave it out.
   f.Z.reserve(g.X.size() * g.Y.size());
   f.Gueltig.reserve(g.X.size() * g.Y.size());
