@@ -132,7 +132,9 @@ private:
       while (pos_ < t_.size() && t_[pos_] >= '0' && t_[pos_] <= '9') ++pos_;
       return pos_ > a;
     };
-    if (!ziffern()) return Fehler("Wert erwartet");
+    // A leading zero stands alone: "01" is a zero followed by text.
+    if (pos_ < t_.size() && t_[pos_] == '0') ++pos_;
+    else if (!ziffern()) return Fehler("Wert erwartet");
     if (pos_ < t_.size() && t_[pos_] == '.') {
       ++pos_;
       if (!ziffern()) return Fehler("Ziffer erwartet");
@@ -207,7 +209,7 @@ private:
     case 'r': aus += '\r'; return true;
     case 't': aus += '\t'; return true;
     case 'u': break;
-    default: return Fehler("falsches Escape-Zeichen");
+    default: return --pos_, Fehler("falsches Escape-Zeichen");
     }
     uint32_t u = 0;
     if (!Hex4(u)) return false;
