@@ -2,12 +2,16 @@
 // page's logic holds through zoom, reset, swapped axes and deletes, the question when the axes don't
 // fit, the insert menu while a page is open; and the pictures of typical diagrams.
 #include "diagrams/diagramm_befehle.h"
+#include "diagrams/diagramm_datei_befehle.h"
 #include "gui/diagrams/diagramm2d_flaeche.h"
 #include "gui/diagrams/graph2d_steuerung.h"
 #include "programm_hilfe.h"
 #include "support/relativ.h"
 
+#include <QClipboard>
+#include <QFile>
 #include <QMdiArea>
+#include <QTemporaryDir>
 #include <QMouseEvent>
 #include <qcustomplot.h>
 
@@ -171,6 +175,64 @@ TEST(Graph2DFenster, FromTheMenuToCurvesThatTheChartShowsThroughZoomSwapAndDelet
   EXPECT_EQ(a.Seite(), nullptr);
   a.fenster->Aktualisieren();
   EXPECT_FALSE(a.fenster->Befehl("mnuMarkKoex")->isEnabled());
+}
+
+// The page's file menu: a diagram saved, cleared and loaded back; its point sets and curves into .XY
+// files; the picture as SVG file, on the clipboard and printed after the question for a black sheet.
+TEST(Graph2DFenster, TheFileMenuKeepsTheDiagramAndSendsItsPicture) {
+  Diagramme a("Propan");
+  Graph2DFenster* seite = a.Menue("mnuGraf_sub_cut", 1);
+  ASSERT_NE(seite, nullptr);
+  a.Kurve("330");
+  a.Kurve("360");
+  seite->Einfuegen("mnuMarkKoex", -1);
+  ASSERT_TRUE(seite->Logik().cmdExternPoints({0.5}, {1000}, PunktQuelle::XYEditor, "Punkt"));
+  QTemporaryDir ordner;
+  const auto pfad = [&ordner](const char* name) { return ordner.filePath(name).toStdString(); };
+
+  QMenu* menue = seite->Knopf("cmdDatei")->menu();
+  ASSERT_NE(menue, nullptr);
+  emit menue->aboutToShow();
+  for (const char* name : {"mnuSaveOC2", "mnuLoadOC2", "mnuAddPunkte", "mnuBildDrucken", "mnuSchwarzesBlatt"})
+    EXPECT_NE(Eintrag(menue, name, -1), nullptr) << name;
+  EXPECT_NE(Eintrag(menue, "mnuSaveKurve", 2), nullptr);   // the coexistence curve
+  EXPECT_NE(Eintrag(menue, "mnuSavePunktSatz", 0), nullptr);
+
+  a.ui.dateien = {pfad("propan.oc2")};
+  Eintrag(menue, "mnuSaveOC2", -1)->trigger();
+  const Diagramm2D vorher = seite->Logik().Bild();
+  seite->Logik().mnuDelTotal();
+  a.ui.dateien = {pfad("propan.oc2")};
+  ASSERT_TRUE(seite->DiagrammLaden());
+  EXPECT_EQ(seite->Logik().KurvenAnzahl(), 3);
+  EXPECT_EQ(seite->Logik().Bild().Reihen.size(), vorher.Reihen.size());
+  ZeigtBild(seite);
+  a.ui.dateien = {pfad("koex.XY")};
+  Eintrag(menue, "mnuSaveKurve", 2)->trigger();
+  EXPECT_TRUE(QFile::exists(QString::fromStdString(pfad("koex.XY"))));
+
+  a.ui.dateien = {pfad("bild.svg")};
+  ASSERT_TRUE(seite->BildSchreiben(true));
+  QFile svg(QString::fromStdString(pfad("bild.svg")));
+  ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
+  const QByteArray inhalt = svg.readAll();
+  EXPECT_TRUE(inhalt.contains("<polyline") || inhalt.contains("<path"));
+  ASSERT_TRUE(seite->BildKopieren(false));
+  EXPECT_FALSE(QGuiApplication::clipboard()->image().isNull());
+  EXPECT_TRUE(seite->Statuszeile()->text().endsWith(ZwischenablageRat));
+
+  // A black sheet: No prints nothing, Yes prints.
+  emit menue->aboutToShow();
+  Eintrag(menue, "mnuSchwarzesBlatt", -1)->trigger();
+  EXPECT_EQ(seite->Logik().Bild().Seitenfarbe, (RGBFarbe{0, 0, 0}));
+  const QString pdf = ordner.filePath("druck.pdf");
+  a.ui.antworten = {Antwort::Nein};
+  EXPECT_FALSE(seite->BildDrucken(pdf));
+  EXPECT_FALSE(QFile::exists(pdf));
+  EXPECT_EQ(a.ui.Letzte().titel, "WARNUNG");
+  a.ui.antworten = {Antwort::Ja};
+  EXPECT_TRUE(seite->BildDrucken(pdf));
+  EXPECT_GT(QFile(pdf).size(), 1000);
 }
 
 TEST(Graph2DFenster, PropaneIsothermsWithTheCoexistenceCurveTieLineAndCriticalPoint) {

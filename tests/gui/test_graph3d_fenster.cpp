@@ -199,6 +199,38 @@ TEST(Graph3DFenster, FromTheMenuToASurfaceWhoseOptionsReachTheChart) {
   EXPECT_EQ(a.Seite(), nullptr);
 }
 
+// A surface saved as .oc3 comes back with its options and counts on the panel after they were changed.
+TEST(Graph3DFenster, ASavedSurfaceComesBackWithItsPanel) {
+  Flaechen a("Methan");
+  Graph3DFenster* seite = a.Menue(6);
+  ASSERT_NE(seite, nullptr);
+  seite->Option("chkMesh")->setChecked(true);
+  seite->Option("mnuAddCritPoint")->setChecked(true);
+  seite->Anzahl("UpDown1_IsoT")->setValue(3);
+  seite->Knopf("mnuAddIsobars")->click();
+  QTemporaryDir ordner;
+  const std::string pfad = ordner.filePath("h.oc3").toStdString();
+  a.ui.dateien = {pfad};
+  seite->Knopf("cmdSave3D")->click();
+  const Flaeche3D vorher = seite->Logik().Bild();
+
+  seite->Option("chkMesh")->setChecked(false);
+  seite->Option("mnuAddCritPoint")->setChecked(false);
+  seite->Anzahl("UpDown1_IsoT")->setValue(0);
+  a.ui.antworten = {Antwort::Ja};
+  a.Menue(0); // another surface
+  a.ui.dateien = {pfad};
+  seite->Knopf("cmdLoad3D")->click();
+  EXPECT_EQ(seite->Logik().Art(), art3d::H);
+  EXPECT_TRUE(seite->Option("chkMesh")->isChecked());
+  EXPECT_TRUE(seite->Option("mnuAddCritPoint")->isChecked());
+  EXPECT_EQ(seite->Anzahl("UpDown1_IsoT")->value(), 3);
+  EXPECT_EQ(seite->findChild<QLabel*>("lblIsoV")->text(), "Isobaren");
+  EXPECT_EQ(seite->Logik().Bild().Z, vorher.Z);
+  EXPECT_EQ(seite->Logik().Bild().Linien.size(), vorher.Linien.size());
+  ZeigtBild(seite);
+}
+
 TEST(Graph3DFenster, MouseModesMoveSpinAndScaleTheScene) {
   Flaechen a("Methan");
   Graph3DFenster* seite = a.Menue(5);

@@ -3,6 +3,7 @@
 #include "core/zahl_lesen.h"
 #include "core/zahlformat.h"
 
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -41,13 +42,14 @@ void FarbeZeigen(QPushButton* knopf, RGBFarbe f) {
 }
 
 BereichDialog::BereichDialog(const std::array<double, 4>& bereich, const QString& xText, const QString& yText,
-                             QWidget* eltern)
+                             const std::array<AchsenStil2D, 2>& stil, QWidget* eltern)
     : QDialog(eltern) {
   setObjectName("frmKoordinatenbereich");
   setWindowTitle("Koordinatenbereich");
   auto* raster = new QGridLayout;
   raster->addWidget(new QLabel("von", this), 0, 1);
   raster->addWidget(new QLabel("bis", this), 0, 2);
+  raster->addWidget(new QLabel("Zahlenformat", this), 0, 3);
   const QString achsen[] = {"X-Achse:  " + xText, "Y-Achse:  " + yText};
   for (int achse = 0; achse < 2; ++achse) {
     raster->addWidget(new QLabel(achsen[achse], this), achse + 1, 0);
@@ -58,6 +60,16 @@ BereichDialog::BereichDialog(const std::array<double, 4>& bereich, const QString
       felder_[i]->setMinimumWidth(110);
       raster->addWidget(felder_[i], achse + 1, ende + 1);
     }
+    const std::size_t a = static_cast<std::size_t>(achse);
+    formate_[a] = new QLineEdit(QString::fromStdString(stil[a].Format), this);
+    formate_[a]->setObjectName(QString("txtFormat%1").arg(achse));
+    formate_[a]->setPlaceholderText("automatisch");
+    formate_[a]->setToolTip("Muster der Achsenzahlen, z. B. 0.000 oder 0.0E+00; leer: automatisch");
+    gitter_[a] = new QCheckBox("Gitter", this);
+    gitter_[a]->setObjectName(QString("chkGitter%1").arg(achse));
+    gitter_[a]->setChecked(stil[a].Gitter);
+    raster->addWidget(formate_[a], achse + 1, 3);
+    raster->addWidget(gitter_[a], achse + 1, 4);
   }
   auto* lage = new QVBoxLayout(this);
   lage->addLayout(raster);
@@ -72,6 +84,13 @@ std::optional<std::array<double, 4>> BereichDialog::Werte() const {
     w[i] = z.wert;
   }
   return w;
+}
+
+std::array<AchsenStil2D, 2> BereichDialog::Stil() const {
+  std::array<AchsenStil2D, 2> s;
+  for (std::size_t a = 0; a < s.size(); ++a)
+    s[a] = {formate_[a]->text().trimmed().toStdString(), gitter_[a]->isChecked()};
+  return s;
 }
 
 void BereichDialog::accept() {

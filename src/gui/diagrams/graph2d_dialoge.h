@@ -8,7 +8,9 @@
 
 #include <array>
 #include <optional>
+#include <string>
 
+class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
 class QLineEdit;
@@ -16,15 +18,24 @@ class QPushButton;
 
 namespace quor::ui {
 
-// The axis range in displayed units: X from, X to, Y from, Y to.
+// How an axis labels its ticks and whether it draws a grid.
+struct AchsenStil2D {
+  std::string Format; // Basic-style pattern ("0.000", "0.0E+00"); empty: automatic
+  bool Gitter = false;
+};
+
+// The axis range in displayed units: X from, X to, Y from, Y to; and the number format and grid of
+// each axis.
 class BereichDialog : public QDialog {
   Q_OBJECT
 
 public:
   BereichDialog(const std::array<double, 4>& bereich, const QString& xText, const QString& yText,
-                QWidget* eltern = nullptr);
+                const std::array<AchsenStil2D, 2>& stil = {}, QWidget* eltern = nullptr);
 
   QLineEdit* Feld(int i) const { return felder_[static_cast<std::size_t>(i)]; }
+  QLineEdit* FormatFeld(int achse) const { return formate_[static_cast<std::size_t>(achse)]; }
+  std::array<AchsenStil2D, 2> Stil() const;
   // The four numbers of the fields; empty when one of them is no number.
   std::optional<std::array<double, 4>> Werte() const;
   // Closes only when every field holds a number; else the first other text is selected.
@@ -32,6 +43,8 @@ public:
 
 private:
   std::array<QLineEdit*, 4> felder_{};
+  std::array<QLineEdit*, 2> formate_{};
+  std::array<QCheckBox*, 2> gitter_{};
 };
 
 // The look of a curve as the page's style dialog sets it.

@@ -94,10 +94,20 @@ void Graph2DFenster::BaueKopfzeile() {
   auto* tauschen = NeuerKnopf("cmdChangeXY", "Achsen tauschen", "X- und Y-Achse vertauschen", this);
   auto* legende = NeuerKnopf("cmdLegende", "Legende", "Legende zeigen oder ausblenden", this);
   legende->setCheckable(true);
+  auto* datei = NeuerKnopf("cmdDatei", "Datei", "Diagramm speichern oder laden, Punkte, Bild und Drucken", this);
+  auto* dateiMenue = new QMenu(datei);
+  dateiMenue->setObjectName("mnuDatei");
+  datei->setMenu(dateiMenue);
+  // Built when it opens: its lists follow the curves and point sets on show.
+  connect(dateiMenue, &QMenu::aboutToShow, this, [this, dateiMenue] {
+    dateiMenue->clear();
+    for (QMenu* alt : dateiMenue->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly)) alt->deleteLater();
+    DateiMenue(dateiMenue);
+  });
   for (QWidget* w : std::initializer_list<QWidget*>{parameterLabel_, parameter_, zeichnen})
     zeile->addWidget(w);
   zeile->addSpacing(12);
-  for (QWidget* w : std::initializer_list<QWidget*>{farbe, bereich, zurueck, tauschen, legende})
+  for (QWidget* w : std::initializer_list<QWidget*>{farbe, bereich, zurueck, tauschen, legende, datei})
     zeile->addWidget(w);
   zeile->addStretch(1);
   static_cast<QVBoxLayout*>(layout())->addLayout(zeile);
@@ -199,10 +209,17 @@ void Graph2DFenster::FarbeVorwaehlen(RGBFarbe f) {
 void Graph2DFenster::Koordinatenbereich() {
   const DiagrammAuftrag& a = logik_.Auftrag();
   const bool gekippt = logik_.Gekippt();
-  BereichDialog d(logik_.Bereich(), Q(gekippt ? a.YText : a.XText), Q(gekippt ? a.XText : a.YText), this);
+  const Graph2DZustand z = logik_.Zustand();
+  BereichDialog d(logik_.Bereich(), Q(gekippt ? a.YText : a.XText), Q(gekippt ? a.XText : a.YText),
+                  {AchsenStil2D{z.Format[0], z.Gitter[0]}, AchsenStil2D{z.Format[1], z.Gitter[1]}}, this);
   if (d.exec() != QDialog::Accepted) return;
   const auto w = d.Werte();
-  if (w && logik_.mnuCoord((*w)[0], (*w)[1], (*w)[2], (*w)[3])) Zeige();
+  if (!w) return;
+  const auto stil = d.Stil();
+  for (int achse = 0; achse < 2; ++achse)
+    logik_.AchsenStil(achse, stil[static_cast<std::size_t>(achse)].Format, stil[static_cast<std::size_t>(achse)].Gitter);
+  logik_.mnuCoord((*w)[0], (*w)[1], (*w)[2], (*w)[3]);
+  Zeige();
 }
 
 void Graph2DFenster::KurveGestalten(int slot) {

@@ -9,6 +9,7 @@
 #include "diagrams/markierungen.h"
 
 #include <QPoint>
+#include <QString>
 #include <QWidget>
 
 #include <memory>
@@ -57,6 +58,18 @@ public:
   // The page's menu for a right click on an empty place; `kurve` is the slot under the mouse or -1.
   std::unique_ptr<QMenu> HauptMenue(int kurve);
   void FarbeVorwaehlen(RGBFarbe f);
+  // The page's file menu: diagram save and load (.oc2), point sets from and to .XY files, the picture
+  // (mnuBild) and the colour of the sheet. It hangs under the page's "Datei" button and in its menu.
+  void DateiMenue(QMenu* m);
+  // Loads a diagram file; the next curve takes the loaded diagram's request.
+  bool DiagrammLaden();
+  // mnuBild: the picture on the printer (after the question for a black sheet), to the clipboard as
+  // bitmap or vector picture, into a picture file of the chosen kind. Printing writes `pdfDatei`
+  // when one is given, else the print dialog chooses the printer.
+  bool BildDrucken(const QString& pdfDatei = QString());
+  bool BildKopieren(bool vektor);
+  bool BildSchreiben(bool vektor);
+
   // The range dialog; its four numbers become the new setting.
   void Koordinatenbereich();
   void KurveGestalten(int slot);
@@ -78,6 +91,8 @@ private:
   void EinfuegeMenue(QMenu* m);
   void LoeschMenue(QMenu* m);
   void ZwischenablageMenue(QMenu* m, int kurve);
+  void BildMenue(QMenu* m);
+  void PunkteSpeichernMenue(QMenu* m);
   void ParameterZeigen();
 
   ProjectState& s_;

@@ -2,6 +2,7 @@
 #include "diagrams/diagramm_befehle.h"
 #include "dienste/oberflaeche.h"
 #include "gui/diagrams/graph2d_fenster.h"
+#include "gui/diagrams/menue_hilfen.h"
 
 #include <QMenu>
 
@@ -9,27 +10,10 @@
 
 namespace quor::ui {
 
-namespace {
-
-// A legend text short enough for a menu entry.
-QString Kurz(const std::string& text) {
-  const QString t = QString::fromStdString(text).simplified();
-  return t.size() > 60 ? t.left(57) + "..." : t;
-}
-
-QAction* Eintrag(QMenu* m, const QString& text, const char* name, int index = -1) {
-  QAction* a = m->addAction(text);
-  a->setObjectName(name);
-  a->setProperty("index", index);
-  return a;
-}
-
-} // namespace
-
 std::unique_ptr<QMenu> Graph2DFenster::HauptMenue(int kurve) {
   auto m = std::make_unique<QMenu>(this);
   m->setObjectName("mnuHaupt");
-  connect(Eintrag(m.get(), "Koordinatenbereich ...", "mnuCoord"), &QAction::triggered, this,
+  connect(MenueEintrag(m.get(), "Koordinatenbereich ...", "mnuCoord"), &QAction::triggered, this,
           &Graph2DFenster::Koordinatenbereich);
   QMenu* einfuegen = m->addMenu("Einfügen");
   einfuegen->setObjectName("mnuInsert");
@@ -38,7 +22,7 @@ std::unique_ptr<QMenu> Graph2DFenster::HauptMenue(int kurve) {
   loeschen->setObjectName("mnuDel");
   LoeschMenue(loeschen);
   m->addSeparator();
-  connect(Eintrag(m.get(), "Legende zeigen", "mnuAddLegend"), &QAction::triggered, this, [this] {
+  connect(MenueEintrag(m.get(), "Legende zeigen", "mnuAddLegend"), &QAction::triggered, this, [this] {
     logik_.mnuAddLegend();
     Zeige();
   });
@@ -47,7 +31,7 @@ std::unique_ptr<QMenu> Graph2DFenster::HauptMenue(int kurve) {
   for (int i = 0; i < MaxKurven; ++i)
     beschriftet =
         beschriftet || (belegt[static_cast<std::size_t>(i)] && logik_.Kurve(i).ParameterBeschriften);
-  QAction* parameter = Eintrag(m.get(), "Kurvenparameter an Kurven schreiben", "mnuParameterBeschriften");
+  QAction* parameter = MenueEintrag(m.get(), "Kurvenparameter an Kurven schreiben", "mnuParameterBeschriften");
   parameter->setCheckable(true);
   parameter->setChecked(beschriftet);
   connect(parameter, &QAction::triggered, this, [this](bool an) {
@@ -55,6 +39,10 @@ std::unique_ptr<QMenu> Graph2DFenster::HauptMenue(int kurve) {
     Zeige();
   });
   ZwischenablageMenue(m.get(), kurve);
+  m->addSeparator();
+  QMenu* datei = m->addMenu("Datei");
+  datei->setObjectName("mnuDatei");
+  DateiMenue(datei);
   return m;
 }
 
@@ -78,7 +66,7 @@ void Graph2DFenster::EinfuegeMenue(QMenu* m) {
         selbst(unter, p.name, p.index, selbst);
         continue;
       }
-      connect(Eintrag(menue, QString::fromUtf8(p.text), p.name, p.index), &QAction::triggered, this,
+      connect(MenueEintrag(menue, QString::fromUtf8(p.text), p.name, p.index), &QAction::triggered, this,
               [this, name = std::string(p.name), index = p.index] { Einfuegen(name, index); });
     }
   };
@@ -86,15 +74,15 @@ void Graph2DFenster::EinfuegeMenue(QMenu* m) {
 }
 
 void Graph2DFenster::LoeschMenue(QMenu* m) {
-  connect(Eintrag(m, "alles", "mnuDelTotal"), &QAction::triggered, this, [this] {
+  connect(MenueEintrag(m, "alles", "mnuDelTotal"), &QAction::triggered, this, [this] {
     logik_.mnuDelTotal();
     Zeige();
   });
   m->addSeparator();
   for (int i = 0; i < MaxKurven; ++i) {
     if (!logik_.KurveBelegt()[static_cast<std::size_t>(i)]) continue;
-    const QString text = QString("Kurve %1:  ").arg(i + 1) + Kurz(logik_.Kurve(i).Legende);
-    connect(Eintrag(m, text, "mnuSubDelKurv", i), &QAction::triggered, this, [this, i] {
+    const QString text = QString("Kurve %1:  ").arg(i + 1) + MenueKurz(logik_.Kurve(i).Legende);
+    connect(MenueEintrag(m, text, "mnuSubDelKurv", i), &QAction::triggered, this, [this, i] {
       logik_.mnuSubDelKurv(i);
       Zeige();
     });
@@ -102,18 +90,18 @@ void Graph2DFenster::LoeschMenue(QMenu* m) {
   const auto& saetze = logik_.PunktSaetze();
   for (int i = 0; i < static_cast<int>(saetze.size()); ++i) {
     const QString text =
-        QString("Punktsatz %1:  ").arg(i + 1) + Kurz(saetze[static_cast<std::size_t>(i)].Legende);
-    connect(Eintrag(m, text, "mnuSubDelPointSet", i), &QAction::triggered, this, [this, i] {
+        QString("Punktsatz %1:  ").arg(i + 1) + MenueKurz(saetze[static_cast<std::size_t>(i)].Legende);
+    connect(MenueEintrag(m, text, "mnuSubDelPointSet", i), &QAction::triggered, this, [this, i] {
       logik_.mnuSubDelPointSet(i);
       Zeige();
     });
   }
   m->addSeparator();
-  connect(Eintrag(m, "Beschriftungen", "mnuDelLabels"), &QAction::triggered, this, [this] {
+  connect(MenueEintrag(m, "Beschriftungen", "mnuDelLabels"), &QAction::triggered, this, [this] {
     logik_.mnuDelLabels();
     Zeige();
   });
-  connect(Eintrag(m, "Legende", "mnuDelLegend"), &QAction::triggered, this, [this] {
+  connect(MenueEintrag(m, "Legende", "mnuDelLegend"), &QAction::triggered, this, [this] {
     logik_.mnuDelLegend();
     Zeige();
   });
@@ -123,7 +111,7 @@ void Graph2DFenster::LoeschMenue(QMenu* m) {
 void Graph2DFenster::ZwischenablageMenue(QMenu* m, int kurve) {
   const auto kopieren = [this](int slot) { ui_.ZwischenablageSetzen(logik_.KurveAlsText(slot)); };
   if (kurve >= 0) {
-    connect(Eintrag(m, QString("Kurve %1 in die Zwischenablage").arg(kurve + 1), "mnuKurveKopieren", kurve),
+    connect(MenueEintrag(m, QString("Kurve %1 in die Zwischenablage").arg(kurve + 1), "mnuKurveKopieren", kurve),
             &QAction::triggered, this, [kopieren, kurve] { kopieren(kurve); });
     return;
   }
@@ -131,8 +119,8 @@ void Graph2DFenster::ZwischenablageMenue(QMenu* m, int kurve) {
   liste->setObjectName("mnuKurveKopieren");
   for (int i = 0; i < MaxKurven; ++i) {
     if (!logik_.KurveBelegt()[static_cast<std::size_t>(i)]) continue;
-    const QString text = QString("Kurve %1:  ").arg(i + 1) + Kurz(logik_.Kurve(i).Legende);
-    connect(Eintrag(liste, text, "mnuKurveKopieren", i), &QAction::triggered, this,
+    const QString text = QString("Kurve %1:  ").arg(i + 1) + MenueKurz(logik_.Kurve(i).Legende);
+    connect(MenueEintrag(liste, text, "mnuKurveKopieren", i), &QAction::triggered, this,
             [kopieren, i] { kopieren(i); });
   }
   liste->setEnabled(!liste->isEmpty());

@@ -224,10 +224,20 @@ QWidget* Graph3DFenster::BaueKnoepfe() {
   auto* kopieren =
       NeuerKnopf("cmdKopieren", "Bild kopieren", "das Diagramm als Bild in die Zwischenablage", feld);
   auto* drucken = NeuerKnopf("cmdDrucken", "Drucken ...", "das Diagramm drucken (oder als PDF)", feld);
+  auto* bildDatei = NeuerKnopf("cmdBildDatei", "Bildfile ...", "das Diagramm als Bitmap-Grafik (PNG, BMP) speichern",
+                               feld);
+  auto* speichern = NeuerKnopf("cmdSave3D", "Speichern ...", "diese Diagrammgestaltung speichern (*.oc3)", feld);
+  auto* laden = NeuerKnopf("cmdLoad3D", "Laden ...", "eine abgespeicherte Diagrammvorlage laden (*.oc3)", feld);
   raster->addWidget(bereich, 0, 0, 1, 2);
   raster->addWidget(ansicht, 1, 0, 1, 2);
   raster->addWidget(kopieren, 2, 0);
   raster->addWidget(drucken, 2, 1);
+  raster->addWidget(bildDatei, 3, 0, 1, 2);
+  raster->addWidget(speichern, 4, 0);
+  raster->addWidget(laden, 4, 1);
+  connect(bildDatei, &QPushButton::clicked, this, [this] { BildSchreiben(); });
+  connect(speichern, &QPushButton::clicked, this, [this] { Speichern(); });
+  connect(laden, &QPushButton::clicked, this, [this] { Laden(); });
   connect(bereich, &QPushButton::clicked, this, &Graph3DFenster::Koordinatenbereich);
   connect(ansicht, &QPushButton::clicked, this, [this] { Zeige(true); });
   connect(kopieren, &QPushButton::clicked, this, [this] { BildKopieren(); });

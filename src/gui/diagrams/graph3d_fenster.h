@@ -43,6 +43,12 @@ public:
   // dialog chooses. False when cancelled or when the chart cannot draw.
   bool Drucken(const QString& pdfDatei = QString());
   void SetzeMausModus(MausModus m);
+  // The diagram file (.oc3): saved with the camera as it stands; a loaded one sets the options and
+  // counts of the panel and the camera of the file.
+  bool Speichern();
+  bool Laden();
+  // The picture into a bitmap file (PNG or BMP); false when cancelled, not drawable or not written.
+  bool BildSchreiben();
 
   Diagramm3DFlaeche* Flaeche() const { return flaeche_; }
   QLabel* Hinweis() const { return hinweis_; }
@@ -62,6 +68,7 @@ private:
   void OptionenLesen();
   void IsolinienZeichnen();
   void IsoTexteZeigen();
+  void OptionenZeigen(); // the panel's options and counts from the logic
   bool DruckeAuf(QPrinter& drucker);
 
   ProjectState& s_;
