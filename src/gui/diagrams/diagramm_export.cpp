@@ -16,7 +16,6 @@
 #include <QSaveFile>
 #include <QScreen>
 #include <QSvgGenerator>
-#include <QSvgRenderer>
 #include <qcustomplot.h>
 
 namespace quor::ui {
@@ -65,6 +64,17 @@ QByteArray ImageBytes(const QImage& bild, const char* format) {
   puffer.open(QIODevice::WriteOnly);
   if (!bild.save(&puffer, format)) return {};
   return daten;
+}
+
+// An SVG document that states its size in pixels (the generator writes millimetres, which viewers
+// turn into pixels at differing resolutions).
+QByteArray MitPixelGroesse(QByteArray svg, QSize groesse) {
+  const int anfang = svg.indexOf("<svg width=\"");
+  const int ende = anfang < 0 ? -1 : svg.indexOf('\n', anfang);
+  if (ende < 0) return svg;
+  return svg.replace(
+      anfang, ende - anfang,
+      QString("<svg width=\"%1\" height=\"%2\"").arg(groesse.width()).arg(groesse.height()).toUtf8());
 }
 
 // A one-page PDF of `groesse` pixels at `dpi`, drawn by `zeichne` in pixel coordinates.
@@ -118,6 +128,37 @@ bool Schreiben(const std::string& pfad, const QByteArray& daten, std::string& gr
   return true;
 }
 
+// One printed page: the title, the picture's place in its proportions, the note.
+template <class Maler>
+bool Seite(QPrinter& drucker, const QString& titel, const QString& hinweis, QSizeF bildGroesse,
+           const std::function<void(Maler&, const QRectF&)>& zeichne) {
+  Maler maler;
+  if (!maler.begin(&drucker)) return false;
+  const QRect seite = maler.viewport();
+  QFont schrift("Helvetica", 14, QFont::Bold);
+  maler.setFont(schrift);
+  const int zeile = maler.fontMetrics().height();
+  int oben = seite.top(), unten = seite.bottom() + 1;
+  if (!titel.isEmpty()) {
+    maler.drawText(QRect(seite.left(), oben, seite.width(), zeile), Qt::AlignCenter, titel);
+    oben += 2 * zeile;
+  }
+  if (!hinweis.isEmpty()) unten -= 2 * zeile;
+  const QRectF platz(seite.left(), oben, seite.width(), unten - oben);
+  if (bildGroesse.isEmpty()) bildGroesse = platz.size();
+  const QSizeF passend = bildGroesse.scaled(platz.size(), Qt::KeepAspectRatio);
+  const QRectF ziel(platz.left() + (platz.width() - passend.width()) / 2, platz.top(), passend.width(),
+                    passend.height());
+  zeichne(maler, ziel);
+  if (!hinweis.isEmpty()) {
+    schrift.setPointSize(11);
+    maler.setFont(schrift);
+    maler.drawText(QRectF(seite.left(), ziel.bottom() + zeile / 2.0, seite.width(), 2 * zeile),
+                   Qt::AlignCenter, hinweis);
+  }
+  return maler.end();
+}
+
 } // namespace
 
 QImage Bild2D(const Diagramm2DFlaeche& d, QSize groesse) {
@@ -142,7 +183,7 @@ QByteArray Svg2D(const Diagramm2DFlaeche& d, QSize groesse) {
   QCPPainter maler;
   if (!maler.begin(&svg)) return {};
   ZeichneVektoren(d.Plot(), maler, groesse);
-  return daten;
+  return MitPixelGroesse(daten, groesse);
 }
 
 QByteArray Pdf2D(const Diagramm2DFlaeche& d, QSize groesse) {
@@ -199,6 +240,7 @@ bool Bildfile3D(const QImage& bild, const std::string& pfad, BildFormat f, std::
       maler.drawImage(QPoint(0, 0), bild);
       maler.end();
     }
+    daten = MitPixelGroesse(daten, bild.size());
     break;
   }
   case BildFormat::PDF:
@@ -249,41 +291,24 @@ std::unique_ptr<QPrinter> DiagrammDrucker(QWidget* eltern, const QString& dokume
 
 bool DruckeBildSeite(QPrinter& drucker, const QString& titel, const QString& hinweis, QSizeF bildGroesse,
                      const std::function<void(QPainter&, const QRectF&)>& zeichne) {
-  QPainter maler;
-  if (!maler.begin(&drucker)) return false;
-  const QRect seite = maler.viewport();
-  QFont schrift("Helvetica", 14, QFont::Bold);
-  maler.setFont(schrift);
-  const int zeile = maler.fontMetrics().height();
-  int oben = seite.top(), unten = seite.bottom() + 1;
-  if (!titel.isEmpty()) {
-    maler.drawText(QRect(seite.left(), oben, seite.width(), zeile), Qt::AlignCenter, titel);
-    oben += 2 * zeile;
-  }
-  if (!hinweis.isEmpty()) unten -= 2 * zeile;
-  const QRectF platz(seite.left(), oben, seite.width(), unten - oben);
-  if (bildGroesse.isEmpty()) bildGroesse = platz.size();
-  const QSizeF passend = bildGroesse.scaled(platz.size(), Qt::KeepAspectRatio);
-  const QRectF ziel(platz.left() + (platz.width() - passend.width()) / 2, platz.top(), passend.width(),
-                    passend.height());
-  zeichne(maler, ziel);
-  if (!hinweis.isEmpty()) {
-    schrift.setPointSize(11);
-    maler.setFont(schrift);
-    maler.drawText(QRectF(seite.left(), ziel.bottom() + zeile / 2.0, seite.width(), 2 * zeile),
-                   Qt::AlignCenter, hinweis);
-  }
-  return maler.end();
+  return Seite<QPainter>(drucker, titel, hinweis, bildGroesse, zeichne);
 }
 
 bool Drucke2D(QPrinter& drucker, const Diagramm2DFlaeche& d) {
   const QSize groesse = Groesse(d, {});
-  // The chart goes to the printer through its SVG document, whose texts are sized in the chart's
-  // own units: drawn directly, fonts would take the printer's resolution and outgrow the layout.
-  QSvgRenderer svg(Svg2D(d, groesse));
-  if (!svg.isValid()) return false;
-  return DruckeBildSeite(drucker, {}, {}, groesse,
-                         [&svg](QPainter& maler, const QRectF& ziel) { svg.render(&maler, ziel); });
+  // The chart is laid out in pixels whose texts the screen measured. On a device of the screen's
+  // resolution the fonts take the same room, and the window maps the chart's pixels onto the page;
+  // at the printer's own resolution they would outgrow the layout.
+  drucker.setResolution(Aufloesung(d));
+  return Seite<QCPPainter>(drucker, {}, {}, groesse, [&](QCPPainter& maler, const QRectF& ziel) {
+    maler.save();
+    maler.setViewport(ziel.toRect());
+    maler.setWindow(QRect(QPoint(0, 0), groesse));
+    maler.setMode(QCPPainter::pmVectorized);
+    d.Plot()->toPainter(&maler, groesse.width(), groesse.height());
+    maler.restore();
+    d.Plot()->replot(QCustomPlot::rpQueuedReplot);
+  });
 }
 
 } // namespace quor::ui
