@@ -150,6 +150,62 @@ bool ArtErlaubt(const std::string& befehl, int a) {
 
 } // namespace
 
+bool IstGlobaleOption(const std::string& name, bool& mitWert) {
+  const Option* o = FindeOption(name);
+  if (o == nullptr || *o->befehle != '\0') return false;
+  mitWert = o->wert;
+  return true;
+}
+
+void GlobaleOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& werte) {
+  auto hat = [&](const char* name) { return werte.count(name) != 0; };
+  auto wert = [&](const char* name) { return werte.at(name); };
+
+  if (hat("--db")) a.Datenbank = wert("--db");
+  if (hat("--substance")) a.Stoff = wert("--substance");
+  if (hat("--eos")) a.EOS = Ganzzahl("--eos", wert("--eos"), eos::Idealgas, eos::VirialPitzerCurl);
+  if (hat("--vapour-pressure")) a.Dampfdruck = Ganzzahl("--vapour-pressure", wert("--vapour-pressure"), 0, 8);
+  if (hat("--hlv")) a.HLV = Ganzzahl("--hlv", wert("--hlv"), 0, 7);
+  if (hat("--cp")) a.Cp = Ganzzahl("--cp", wert("--cp"), 0, 2);
+  if (hat("--watson")) {
+    Zahl("--watson", wert("--watson"));
+    a.Watson = wert("--watson");
+  }
+  if (hat("--concept")) {
+    const std::string k = Klein(wert("--concept"));
+    if (k != "global" && k != "partial")
+      throw Eingabefehler("--concept \"" + wert("--concept") + "\": expected global or partial");
+    a.KonzeptGlobal = k == "global";
+  }
+  if (hat("--liquid-density")) {
+    const std::string d = Klein(wert("--liquid-density"));
+    if (d != "benson" && d != "database")
+      throw Eingabefehler("--liquid-density \"" + wert("--liquid-density") +
+                          "\": expected benson or database");
+    a.BensonDichte = d == "benson";
+  }
+  if (hat("--energy-mode")) a.EnergieMode = Ganzzahl("--energy-mode", wert("--energy-mode"), 0, 3);
+  if (hat("--volume-mode")) a.VolumenMode = Ganzzahl("--volume-mode", wert("--volume-mode"), 0, 2);
+  if (hat("--reference")) {
+    a.RefArt = Ganzzahl("--reference", wert("--reference"), 1, 10);
+    if (*a.RefArt != 1 && *a.RefArt != 2 && *a.RefArt != 10)
+      throw Eingabefehler("--reference " + wert("--reference") + ": expected 1, 2 or 10");
+  }
+  const char* const referenz[6] = {"--h-ref", "--s-ref", "--T-ref", "--p-ref", "--T-env", "--p-env"};
+  for (std::size_t i = 0; i < 6; ++i) {
+    if (!hat(referenz[i])) continue;
+    Zahl(referenz[i], wert(referenz[i]));
+    a.Referenz[i] = wert(referenz[i]);
+  }
+  const char* const virial[3] = {"--virial-b0", "--virial-b1", "--virial-b2"};
+  for (std::size_t i = 0; i < 3; ++i) {
+    if (!hat(virial[i])) continue;
+    Zahl(virial[i], wert(virial[i]));
+    a.Virial[i] = wert(virial[i]);
+  }
+  a.Json = hat("--json");
+}
+
 Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   Aufruf a;
   std::map<std::string, std::string> werte;
@@ -221,49 +277,7 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   auto hat = [&](const char* name) { return werte.count(name) != 0; };
   auto wert = [&](const char* name) { return werte.at(name); };
 
-  if (hat("--db")) a.Datenbank = wert("--db");
-  if (hat("--substance")) a.Stoff = wert("--substance");
-  if (hat("--eos")) a.EOS = Ganzzahl("--eos", wert("--eos"), eos::Idealgas, eos::VirialPitzerCurl);
-  if (hat("--vapour-pressure")) a.Dampfdruck = Ganzzahl("--vapour-pressure", wert("--vapour-pressure"), 0, 8);
-  if (hat("--hlv")) a.HLV = Ganzzahl("--hlv", wert("--hlv"), 0, 7);
-  if (hat("--cp")) a.Cp = Ganzzahl("--cp", wert("--cp"), 0, 2);
-  if (hat("--watson")) {
-    Zahl("--watson", wert("--watson"));
-    a.Watson = wert("--watson");
-  }
-  if (hat("--concept")) {
-    const std::string k = Klein(wert("--concept"));
-    if (k != "global" && k != "partial")
-      throw Eingabefehler("--concept \"" + wert("--concept") + "\": expected global or partial");
-    a.KonzeptGlobal = k == "global";
-  }
-  if (hat("--liquid-density")) {
-    const std::string d = Klein(wert("--liquid-density"));
-    if (d != "benson" && d != "database")
-      throw Eingabefehler("--liquid-density \"" + wert("--liquid-density") +
-                          "\": expected benson or database");
-    a.BensonDichte = d == "benson";
-  }
-  if (hat("--energy-mode")) a.EnergieMode = Ganzzahl("--energy-mode", wert("--energy-mode"), 0, 3);
-  if (hat("--volume-mode")) a.VolumenMode = Ganzzahl("--volume-mode", wert("--volume-mode"), 0, 2);
-  if (hat("--reference")) {
-    a.RefArt = Ganzzahl("--reference", wert("--reference"), 1, 10);
-    if (*a.RefArt != 1 && *a.RefArt != 2 && *a.RefArt != 10)
-      throw Eingabefehler("--reference " + wert("--reference") + ": expected 1, 2 or 10");
-  }
-  const char* const referenz[6] = {"--h-ref", "--s-ref", "--T-ref", "--p-ref", "--T-env", "--p-env"};
-  for (std::size_t i = 0; i < 6; ++i) {
-    if (!hat(referenz[i])) continue;
-    Zahl(referenz[i], wert(referenz[i]));
-    a.Referenz[i] = wert(referenz[i]);
-  }
-  const char* const virial[3] = {"--virial-b0", "--virial-b1", "--virial-b2"};
-  for (std::size_t i = 0; i < 3; ++i) {
-    if (!hat(virial[i])) continue;
-    Zahl(virial[i], wert(virial[i]));
-    a.Virial[i] = wert(virial[i]);
-  }
-  a.Json = hat("--json");
+  GlobaleOptionenLesen(a, werte);
 
   auto positiv = [&](const char* name, std::optional<double>& ziel) {
     if (hat(name)) ziel = PositiveZahl(name, wert(name));

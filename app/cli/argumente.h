@@ -42,9 +42,9 @@ struct Aufruf {
   std::string Daten, Lst, Csv;
 
   // Options of curve.
-  int Code = 0; // the diagram code
+  int Code = 0;                                            // the diagram code
   std::optional<std::array<double, 2>> XBereich, YBereich; // axis ranges, displayed units
-  std::optional<int> Punkte;                              // points per curve
+  std::optional<int> Punkte;                               // points per curve
   std::optional<double> Isohygre;
   bool SSchleife = false, Real = false, Konnode = false;
 
@@ -59,6 +59,14 @@ struct Aufruf {
 
 // Parses argv[1..]; throws CliFehler (exit code 2) with the reason.
 Aufruf LeseAufruf(const std::vector<std::string>& argumente);
+
+// True for an option that every command takes (the database, substance, models, units, reference
+// state, --json, --help); `mitWert` tells whether a value follows it.
+bool IstGlobaleOption(const std::string& name, bool& mitWert);
+
+// Reads and checks the values of the global options among `werte` (option -> value as typed) into
+// `a`; throws CliFehler (exit code 2) with the reason.
+void GlobaleOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& werte);
 
 // The text of quor-cli --help.
 const char* HilfeText();

@@ -1,6 +1,6 @@
-// Shared by the end-to-end tests of quor-cli: running the built executable with its output and exit
-// code captured, a strict reader of its JSON output, and the Peng/Robinson
-// equation written out for checks made independently of the program.
+// Shared by the end-to-end tests of quor-cli and quor-plot: running the built executable with its
+// output and exit code captured, a strict reader of its JSON output, and the Peng/Robinson equation
+// written out for checks made independently of the program.
 #pragma once
 
 #include "dienste/kind_prozess.h"
@@ -29,12 +29,13 @@ struct Ergebnis {
   std::string fehler; // stderr
 };
 
-// Runs quor-cli with `argumente` in `verzeichnis` (a scratch folder when empty), through the
+// Runs `programm` with `argumente` in `verzeichnis` (a scratch folder when empty), through the
 // program's own child-process launcher.
-inline Ergebnis Starte(const std::vector<std::string>& argumente, const std::string& verzeichnis = "") {
+inline Ergebnis StarteProgramm(const std::string& programm, const std::vector<std::string>& argumente,
+                               const std::string& verzeichnis = "") {
   TempOrdner puffer("quor_cli_test_");
   ui::ProzessAuftrag auftrag;
-  auftrag.programm = QUOR_CLI;
+  auftrag.programm = programm;
   auftrag.argumente = argumente;
   auftrag.arbeitsVerzeichnis = verzeichnis.empty() ? puffer.Pfad() : verzeichnis;
   auftrag.ausgabeDatei = puffer.Datei("stdout");
@@ -48,6 +49,11 @@ inline Ergebnis Starte(const std::vector<std::string>& argumente, const std::str
   for (const char* bericht : {"AddressSanitizer", "LeakSanitizer", "runtime error:"})
     EXPECT_EQ(e.fehler.find(bericht), std::string::npos) << e.fehler;
   return e;
+}
+
+// Runs quor-cli.
+inline Ergebnis Starte(const std::vector<std::string>& argumente, const std::string& verzeichnis = "") {
+  return StarteProgramm(QUOR_CLI, argumente, verzeichnis);
 }
 
 struct Json {
