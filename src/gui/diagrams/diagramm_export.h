@@ -9,6 +9,8 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QMimeData>
+#include <QPrinter>
 #include <QRectF>
 #include <QSize>
 #include <QString>
@@ -17,9 +19,7 @@
 #include <memory>
 #include <string>
 
-class QMimeData;
 class QPainter;
-class QPrinter;
 class QWidget;
 
 namespace quor::ui {

@@ -3,18 +3,17 @@
 #include "diagrams/diagramm3d_art.h"
 #include "dienste/oberflaeche.h"
 #include "gui/diagrams/diagramm3d_flaeche.h"
+#include "gui/diagrams/diagramm_export.h"
 #include "gui/diagrams/graph3d_dialog.h"
 
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QClipboard>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -328,56 +327,22 @@ void Graph3DFenster::SetzeMausModus(MausModus m) {
 // ----- picture, clipboard and printer -----
 
 bool Graph3DFenster::BildKopieren() {
-  const QImage bild = flaeche_->Bild(flaeche_->size());
-  if (bild.isNull()) return false;
-  QGuiApplication::clipboard()->setImage(bild);
-  return true;
+  return InZwischenablage(Zwischenablage3D(flaeche_->Bild(flaeche_->size())));
 }
 
 bool Graph3DFenster::Drucken(const QString& pdfDatei) {
   if (!flaeche_->KannZeichnen()) return false;
-  QPrinter drucker(QPrinter::HighResolution);
-  drucker.setDocName(windowTitle().remove(':'));
-  drucker.setPageOrientation(QPageLayout::Landscape);
-  drucker.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
-  if (!pdfDatei.isEmpty()) {
-    drucker.setOutputFormat(QPrinter::PdfFormat);
-    drucker.setOutputFileName(pdfDatei);
-  } else {
-    QPrintDialog dialog(&drucker, this);
-    dialog.setWindowTitle("Drucken");
-    if (dialog.exec() != QDialog::Accepted) return false;
-  }
-  return DruckeAuf(drucker);
+  const auto drucker = DiagrammDrucker(this, windowTitle().remove(':'), pdfDatei);
+  return drucker && DruckeAuf(*drucker);
 }
 
 // The title above, the picture as large as the page allows in the chart's proportions, the warning
 // below it.
 bool Graph3DFenster::DruckeAuf(QPrinter& drucker) {
-  QPainter maler;
-  if (!maler.begin(&drucker)) return false;
-  const QRect seite = maler.viewport();
-  QFont schrift("Helvetica", 14, QFont::Bold);
-  maler.setFont(schrift);
-  const int zeile = maler.fontMetrics().height();
-  maler.drawText(QRect(seite.left(), seite.top(), seite.width(), zeile), Qt::AlignCenter,
-                 windowTitle().section(":  ", 1));
-  const QString hinweis = hinweis_->text();
-  const QRect platz(seite.left(), seite.top() + 2 * zeile, seite.width(),
-                    seite.height() - (hinweis.isEmpty() ? 2 : 4) * zeile);
   // Drawn at twice the size on the screen: sharp enough on paper, fast enough in software.
   const QImage bild = flaeche_->Bild(flaeche_->size() * 2);
-  const QSize passend = bild.size().scaled(platz.size(), Qt::KeepAspectRatio);
-  const QRect ziel(platz.left() + (platz.width() - passend.width()) / 2, platz.top(), passend.width(),
-                   passend.height());
-  maler.drawImage(ziel, bild);
-  if (!hinweis.isEmpty()) {
-    schrift.setPointSize(11);
-    maler.setFont(schrift);
-    maler.drawText(QRect(seite.left(), ziel.bottom() + zeile / 2, seite.width(), 2 * zeile), Qt::AlignCenter,
-                   hinweis);
-  }
-  return maler.end();
+  return DruckeBildSeite(drucker, windowTitle().section(":  ", 1), hinweis_->text(), bild.size(),
+                         [&bild](QPainter& maler, const QRectF& ziel) { maler.drawImage(ziel, bild); });
 }
 
 } // namespace quor::ui
