@@ -67,10 +67,11 @@ public:
   // row too, as the grid writes it).
   std::string AuswahlText(const TabellenAuswahl& a) const;
   // Pastes clipboard text at row `zeile`, column `spalte`: lines split at CR (an LF after it is
-  // dropped), cells at TAB, each read with "," as decimal mark as Basic's Val() reads it; cells
-  // beyond the last column are dropped. The table grows by new active rows of zeros when the lines
-  // reach beyond its end; afterwards the last row is dropped when its values sum to exactly 0 (the
-  // line a trailing line break gives). False when the text is empty.
+  // dropped) or at a lone LF, cells at TAB, each read with "," as decimal mark as Basic's Val() reads
+  // it; cells beyond the last column are dropped. The table grows by new active rows of zeros when
+  // the lines reach beyond its end; afterwards, when the lines reached the last row, that row is
+  // dropped if every value of it is 0 (the line a trailing line break gives; a row whose values
+  // merely cancel, x = -1 and y = 1, stays). False when the text is empty.
   bool Einfuegen(std::string_view text, int zeile, int spalte);
 
   // Per column the rows with a value of at least GemessenAb.
