@@ -27,6 +27,14 @@ int16_t IndexInListen(const DatenbankGruppe& db, const std::string& text) {
   return 0;
 }
 
+} // namespace
+
+int16_t IndexInDenListen(const ProjectState& s, const std::string& text) {
+  return IndexInListen(s.Datenbank, GrossSchreibung(RechtsGetrimmt(text)));
+}
+
+namespace {
+
 void MeldeNichtInDatenbank(ui::Oberflaeche& ui, const std::string& cas, const std::string& line2) {
   std::string text;
   for (const std::string& teil : BeschreibungsTeile(line2))
