@@ -3,6 +3,7 @@
 #include "cli/ausgabe.h"
 #include "cli/fehler.h"
 #include "diagrams/diagramm_codes.h"
+#include "diagrams/diagramm_datei_befehle.h"
 #include "diagrams/graph2d.h"
 #include "diagrams/graph3d.h"
 #include "diagrams/katalog.h"
