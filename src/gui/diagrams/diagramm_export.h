@@ -62,8 +62,9 @@ std::unique_ptr<QPrinter> DiagrammDrucker(QWidget* eltern, const QString& dokume
 bool DruckeBildSeite(QPrinter& drucker, const QString& titel, const QString& hinweis, QSizeF bildGroesse,
                      const std::function<void(QPainter&, const QRectF&)>& zeichne);
 
-// The 2D chart on one page, as vectors, in the proportions it has on the screen (its title is part
-// of the chart).
+// The 2D chart on one page, as vectors with real text, in the proportions it has on the screen (its
+// title is part of the chart). The printer is set to the screen's resolution for it, which only
+// changes its units: the chart's texts keep the room its layout gave them.
 bool Drucke2D(QPrinter& drucker, const Diagramm2DFlaeche& d);
 
 } // namespace quor::ui
