@@ -104,11 +104,17 @@ const char* LeseZeilen(ListenLeser& leser, int16_t n, long spalten, std::vector<
 } // namespace
 
 bool LadeBatchDatei(ProjectState& s, ui::Oberflaeche& ui, const std::string& pfad, bool anfuegen) {
-  MessdatenGruppe& m = s.Mess;
-  m.BatchCAS.clear();
+  s.Mess.BatchCAS.clear();
   if (pfad.empty()) return false;
   std::string bytes;
   if (!LeseDateiBytes(pfad, bytes)) return Melde(s, ui, NichtGefunden, pfad);
+  return LadeBatchDateiAusBytes(s, ui, pfad, bytes, anfuegen);
+}
+
+bool LadeBatchDateiAusBytes(ProjectState& s, ui::Oberflaeche& ui, const std::string& pfad,
+                            const std::string& bytes, bool anfuegen) {
+  MessdatenGruppe& m = s.Mess;
+  m.BatchCAS.clear();
   long spalten = 0;
   if (const char* fehler = ZeilenLaenge(bytes, spalten)) return Melde(s, ui, fehler, pfad);
 

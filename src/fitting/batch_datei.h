@@ -18,6 +18,10 @@ namespace quor {
 // holds a value that is no number or counts no rows; the measured data are then empty.
 bool LadeBatchDatei(ProjectState& s, ui::Oberflaeche& ui, const std::string& pfad, bool anfuegen = false);
 
+// The same for the bytes of a file read before; `pfad` names it in the message and is kept.
+bool LadeBatchDateiAusBytes(ProjectState& s, ui::Oberflaeche& ui, const std::string& pfad,
+                            const std::string& bytes, bool anfuegen);
+
 // The file's text (UTF-8): `datum`, the comment, the current substance's name and CAS number padded
 // to 107 and 12 characters, the count of the active rows, then their six values each, T and p as
 // double, the others as single values, in their shortest form with "."; lines end in CR LF.
