@@ -80,7 +80,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     PruefeGeladen(s);
   } else {
     Pruefe(!ui.Meldungen().empty()); // a refusal is always told
-    const auto& m = ui.Meldungen().back();
+    const quor::ui::Aufzeichnung m = ui.Meldungen().back();
     if (m.titel == "Message from Sub LadeBatchFile")
       Pruefe(s.Mess.ExpAnzahl == 0 && s.Mess.ExpDaten.size() == 1);
   }
