@@ -12,6 +12,10 @@ const char* const TpFrageText = "Sollen die Vorgabewerte T, p ein V-L-Phasenglei
                                 "und eine \"PARTIAL-Berechnung\" durchgeführt.";
 const char* const TpFrageTitel = "T-p-Vorgabe";
 const char* const NurKubischText = "nur möglich mit einer kubischen EOS";
+const char* const KeineStapelDatenText =
+    "Für die Stapel-Berechnung sind keine experimentellen Daten geladen.\r\n"
+    "Geben Sie Daten im Editor für exper. Daten ein (Menü Daten) oder laden Sie ein *.BAQ-File,\r\n"
+    "oder wählen Sie unter Optionen die Direkt-Berechnung.";
 
 namespace {
 
@@ -49,6 +53,11 @@ void RechnungStarten(ProjectState& s, ui::Oberflaeche& ui, const RechnungsFenste
     return;
   }
   r.TpGleichgewicht = false;
+  // A batch runs over the measured rows: without any there is nothing to calculate.
+  if (r.StapelModus && s.Mess.ExpAnzahl < 1 && !art::IstBehaelter(art) && art != art::Polytrope) {
+    ui.Meldung(KeineStapelDatenText, "Ausführung nicht möglich", ui::Symbol::Ausruf);
+    return;
+  }
   if (!r.StapelModus) {
     if (art::IstBehaelter(art)) {
       r.ParinputModus = ParinputBehaelter;

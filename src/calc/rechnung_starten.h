@@ -26,7 +26,8 @@ struct RechnungsFenster {
 
 extern const char* const TpFrageText;
 extern const char* const TpFrageTitel;
-extern const char* const NurKubischText; // refusal of kind 2 with a model without liquid phase
+extern const char* const NurKubischText;       // refusal of kind 2 with a model without liquid phase
+extern const char* const KeineStapelDatenText; // refusal of a batch without measured rows
 
 // A command of the calculation menu: sets RechenArt (and the concept of the vessel), starts the
 // calculation, and brings the result page forward after the vessel. False for an entry without a kind.

@@ -86,10 +86,19 @@ TEST(RechnungStarten, TheVesselByItsConcept) {
   EXPECT_EQ(t.s.RechenArt, 10);
 }
 
-// Over the batch data nothing is asked and no value dialog opens; the page alone calculates.
+// Over the batch data nothing is asked and no value dialog opens; the page alone calculates. Without
+// measured rows a batch is refused, the vessel still opens.
 TEST(RechnungStarten, BatchModeOpensOnlyThePage) {
+  Start leer(6);
+  leer.s.Rechnung.StapelModus = true;
+  EXPECT_EQ(leer.Menue("mnuCalc", 2), Schritte{});
+  EXPECT_EQ(leer.ui.Letzte().text, KeineStapelDatenText);
+  EXPECT_EQ(leer.Menue("mnuCalc", 15).front(), "frmQCalcOut");
+
   Start t(6);
   t.s.Rechnung.StapelModus = true;
+  ExpZeile(t.s.Mess, 1) = {false, 150, 1000, 0, 0, 0, 0};
+  t.s.Mess.ExpAnzahl = 1;
   for (int index : {0, 2, 3, 11, 15, 16})
     EXPECT_EQ(t.Menue("mnuCalc", index).front(), "frmQCalcOut") << index;
   EXPECT_TRUE(t.ui.protokoll.empty());
@@ -98,6 +107,7 @@ TEST(RechnungStarten, BatchModeOpensOnlyThePage) {
 
   // A page that closes at once gets no value dialog.
   Start exit(6);
+  exit.s.Mess.ExpAnzahl = 1;
   exit.fenster.ergebnisOeffnet = false;
   EXPECT_EQ(exit.Menue("mnuCalc", 0), Schritte{"frmQCalcOut"});
 }
