@@ -103,14 +103,8 @@ TEST(CliBefehle, BatchRechnetJedenLebendenPunktUndSchreibtListeUndProtokoll) {
   }
 }
 
-// The reader of the measured data: the older form with five values a row has no cp, and data of
-// another substance are taken after the warning (answered yes without a terminal).
-TEST(CliBefehle, BatchLiestDieAeltereFormUndDatenEinesFremdenStoffs) {
-  const Json r = StarteJson({"--substance", "Wasser", "batch", "3", "--data", Testdatei("wasser_5.BAQ")});
-  ASSERT_EQ(r.liste.size(), 2u);
-  EXPECT_EQ(r[0]["Vorgabe"]["Cp"].Z(), 0);
-  EXPECT_EQ(static_cast<float>(r[1]["Vorgabe"]["RhoL"].Z()), 973.7f);
-  EXPECT_EQ(r[1]["Vorgabe"]["HLV"].Z(), 41716);
+// Data of another substance are taken after the warning, answered yes without a terminal.
+TEST(CliBefehle, BatchNimmtDatenEinesFremdenStoffsNachDerWarnung) {
   const Ergebnis e = Starte({"--substance", "Methan", "batch", "3", "--data", Testdatei("wasser.BAQ")});
   EXPECT_EQ(e.code, 0) << e.fehler;
   EXPECT_NE(e.fehler.find("WARNUNG: Sie versuchen einen Datensatz für einen"), std::string::npos) << e.fehler;
