@@ -103,6 +103,27 @@ TEST(CliBefehle, BatchRechnetJedenLebendenPunktUndSchreibtListeUndProtokoll) {
   }
 }
 
+// Kind 3 over a measured-data file: the list holds each point's relative deviation of the liquid
+// density and, under the rule, their mean of absolute values (rounded to two places).
+TEST(CliBefehle, BatchListeTraegtAbweichungenUndIhrenMittelwert) {
+  TempOrdner ordner;
+  const Ergebnis e = Starte({"--substance", "Wasser", "batch", "3", "--data", Testdatei("wasser.BAQ"), "--lst", "aus"},
+                            ordner.Pfad());
+  ASSERT_EQ(e.code, 0) << e.fehler;
+  const std::string text = LeseDatei(ordner.Datei("aus.LST"));
+  std::vector<double> abweichungen;
+  for (std::size_t i = text.find("(-"); i != std::string::npos; i = text.find("(-", i + 1))
+    abweichungen.push_back(std::stod(text.substr(i + 2)));
+  ASSERT_EQ(abweichungen.size(), 4u) << text;
+  double summe = 0;
+  for (const double d : abweichungen) summe += d;
+  const std::size_t mittel = text.find("arithmet. mean of ABS(%-deviations):");
+  ASSERT_NE(mittel, std::string::npos);
+  const std::size_t prozent = text.find('%', mittel + 40);
+  const std::size_t anfang = text.find_last_of(" \n", prozent);
+  EXPECT_NEAR(std::stod(text.substr(anfang + 1)), summe / 4, 0.006) << text.substr(mittel);
+}
+
 // Data of another substance are taken after the warning, answered yes without a terminal.
 TEST(CliBefehle, BatchNimmtDatenEinesFremdenStoffsNachDerWarnung) {
   const Ergebnis e = Starte({"--substance", "Methan", "batch", "3", "--data", Testdatei("wasser.BAQ")});
