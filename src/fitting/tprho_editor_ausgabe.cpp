@@ -151,6 +151,7 @@ FitUebergabe FitUebergabeVon(int16_t fitSpalte) {
     u.FunktionsKnopf = "p = f(T)";
     break;
   case tprho::RhoV:
+    // The general tab, with option 9 chosen on it.
     u.Tab = 0;
     u.Modell = 9;
     u.FunktionsKnopf = "y = f(T)";

@@ -61,6 +61,9 @@ TEST(BatchDatei, SchreibenUndLesenGibtJedeSpalteInIhrerBreiteZurueck) {
   EXPECT_EQ(neu.Mess.BatchStoff, "Wasser");
   EXPECT_EQ(neu.Mess.BatchCAS, "7732-18-5");
   EXPECT_EQ(neu.Mess.BatchDateiTitel, "wasser.BAQ");
+  std::string vorschau;
+  EXPECT_TRUE(BatchVorschau(pfad, vorschau));
+  EXPECT_NE(vorschau.find("\r\nSättigung, aus Tabellen\r\nWasser "), std::string::npos) << vorschau;
 }
 
 // The file itself: Windows-1252 with CR LF, the substance line in its fixed widths, the count, one
