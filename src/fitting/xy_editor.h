@@ -11,6 +11,7 @@
 #include "dienste/oberflaeche.h"
 #include "fitting/daten_tabelle.h"
 #include "fitting/diagramm_punkte.h"
+#include "fitting/fit_daten.h"
 
 #include <array>
 #include <functional>
@@ -24,11 +25,6 @@ namespace quor {
 struct XYDatenSatz {
   float x = 0, y = 0;
   bool Inaktiv = false; // not written, not drawn, not sent to the fitting
-};
-
-// One point of a fit: Flag -1 inactive, 0 active.
-struct FitPunkt {
-  float x = 0, y = 0, Flag = 0;
 };
 
 // The conversions of the frame fraManipulation, by the index of optManip.
