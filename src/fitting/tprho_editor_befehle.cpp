@@ -49,7 +49,7 @@ void frmTpRhoEdit::cmdErase() {
   const std::string frage = von == bis ? "Zeile " + std::to_string(von + 1) + " wirklich entfernen?"
                                        : "Zeilen " + std::to_string(von + 1) + " bis " +
                                              std::to_string(bis + 1) + " wirklich entfernen?";
-  if (ui_.Frage(frage, "WARNUNG", ui::Knoepfe::JaNein, ui::Antwort::Ja) != ui::Antwort::Ja) return;
+  if (ui_.Frage(frage, "WARNUNG", ui::Knoepfe::JaNein, ui::Antwort::Nein) != ui::Antwort::Ja) return;
   Grid.ZeilenLoeschen(von, bis);
   s_.Mess.BatchGeaendert = true;
   DatenAusTabelle();

@@ -221,6 +221,7 @@ TEST(TpRhoEditor, LoeschenFragtUndZellenLeerenBehaeltDieZeilen) {
   t.e.cmdErase();
   EXPECT_EQ(t.ui.Letzte().text, "Zeilen 2 bis 3 wirklich entfernen?");
   EXPECT_EQ(t.s.Mess.ExpAnzahl, 4);
+  t.ui.antworten = {ui::Antwort::Ja};
   t.e.cmdErase();
   EXPECT_EQ(t.s.Mess.ExpAnzahl, 2);
   EXPECT_EQ(t.s.Mess.ExpDaten[2].T, 330);
