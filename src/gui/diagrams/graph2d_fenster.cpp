@@ -193,6 +193,8 @@ void Graph2DFenster::Zeige() {
   const std::string& titel = logik_.Auftrag().Titel;
   setWindowTitle(titel.empty() ? "2D-Diagramm" : "2D-Diagramm:  " + Q(titel));
   ParameterZeigen();
+  // A page made for points of another dialog has no catalogue curve to draw.
+  Knopf("cmdDraw")->setEnabled(naechste_.Code != 0);
   Knopf("cmdLegende")->setChecked(logik_.LegendeSichtbar());
   Knopf("cmdChangeXY")->setText(logik_.Gekippt() ? "Achsen zurücktauschen" : "Achsen tauschen");
   const RGBFarbe f = logik_.FarbVorwahl();

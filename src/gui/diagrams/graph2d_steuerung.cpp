@@ -36,6 +36,13 @@ void Graph2DSteuerung::Einfuegen(const std::string& name, int index) {
   if (seite_) seite_->Einfuegen(name, index);
 }
 
+Graph2DFenster* Graph2DSteuerung::SeiteFuer(const DiagrammAuftrag& a) {
+  const bool offen = seite_ != nullptr;
+  Graph2DFenster* seite = SeiteHolen();
+  if (!offen) seite->Anfordern(a, true);
+  return seite;
+}
+
 Graph2DFenster* Graph2DSteuerung::SeiteHolen() {
   if (seite_) {
     flaeche_->setActiveSubWindow(fenster_);

@@ -28,6 +28,9 @@ public:
   void Menue(const std::string& name, int index);
   // A command of the insert menu; nothing without a page.
   void Einfuegen(const std::string& name, int index);
+  // The page for points that bring their own diagram (the data editors): the page on show, or a new
+  // one made for `a`, a request without a catalogue code (its title, axis texts and ranges).
+  Graph2DFenster* SeiteFuer(const DiagrammAuftrag& a);
   // Closes the page (another substance, database or project, or new units).
   void SeiteSchliessen();
 

@@ -10,6 +10,8 @@
 #include "gui/calc/rechnung_steuerung.h"
 #include "gui/diagrams/graph2d_steuerung.h"
 #include "gui/diagrams/graph3d_steuerung.h"
+#include "gui/fitting/daten_editor_steuerung.h"
+#include "gui/frame/projekt_dialog.h"
 #include "gui/frame/projekt_dialog_dienste.h"
 #include "gui/frame/rahmen_dienste.h"
 #include "gui/substance/modell_fenster.h"
@@ -45,6 +47,7 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
   rechnung_ = new RechnungSteuerung(state, ui, mdi_, this);
   graf2d_ = new Graph2DSteuerung(state, ui, mdi_, this);
   graf3d_ = new Graph3DSteuerung(state, ui, mdi_, this);
+  editoren_ = new DatenEditorSteuerung(state, ui, mdi_, graf2d_, this);
   logik_ = std::make_unique<RahmenLogik>(state, ui, Dienste());
   BefehleRegistrieren();
   setObjectName("mdiQUOR");
@@ -65,6 +68,7 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
 // show its entries anew.
 mdiQUOR::~mdiQUOR() {
   graf2d_->disconnect(this);
+  graf2d_->disconnect(editoren_);
 }
 
 RahmenDienste mdiQUOR::Dienste() {
@@ -75,6 +79,7 @@ RahmenDienste mdiQUOR::Dienste() {
   };
   d.ProtokollSchliessen = [this] { rechnung_->SeiteSchliessen(); };
   d.StoffFensterSchliessen = [this] { StoffFensterSchliessen(); };
+  d.BatchEingabeOeffnen = [this] { editoren_->MessdatenNeu(); };
   ProjektFensterDienste(d, *this, ui_);
   return d;
 }
@@ -106,6 +111,13 @@ void mdiQUOR::BefehleRegistrieren() {
   r.Handler("mnuWindow_Kaskade", [this](int) { mdi_->cascadeSubWindows(); });
   r.Handler("mnuWindow_Nebeneinander", [this](int) { mdi_->tileSubWindows(); });
   r.Handler("mnuData_Exit", [this](int) { close(); }); // the closing ends the session
+  r.Handler("mnuData_BatchInput", [this](int) { logik_->mnuData_BatchInput_Click(); });
+  r.Handler("mnuData_BatchEdit", [this](int) { editoren_->MessdatenEditorZeigen(); });
+  r.Handler("mnuData_EditXY", [this](int) { editoren_->XYEditorZeigen(); });
+  editoren_->BatchDateiWaehlen = [this](const std::string& titel, const std::string& muster) {
+    return BatchDateiWaehlen(state_, this, titel, muster);
+  };
+  connect(editoren_, &DatenEditorSteuerung::datenGeaendert, this, &mdiQUOR::Aktualisieren);
 }
 
 void mdiQUOR::BaueMenues() {
@@ -276,13 +288,15 @@ void mdiQUOR::ModellFensterZeigen(bool neuAufbauen) {
 }
 
 // The windows of the former substance: the calculation's page with its companions, the diagram pages,
-// the other child windows and the text windows close; the model window waits hidden for its rebuild.
+// the editor of its measured data, the other child windows and the text windows close; the model
+// window waits hidden for its rebuild. The X-Y editor belongs to no substance and stays.
 void mdiQUOR::StoffFensterSchliessen() {
   rechnung_->SeiteSchliessen();
   graf2d_->SeiteSchliessen();
   graf3d_->SeiteSchliessen();
+  editoren_->MessdatenEditorSchliessen();
   for (QMdiSubWindow* fenster : mdi_->subWindowList())
-    if (fenster != modellFenster_) fenster->close();
+    if (fenster != modellFenster_ && fenster != editoren_->XYFenster()) fenster->close();
   for (TextFenster* text : findChildren<TextFenster*>())
     text->close();
   if (modellFenster_) modellFenster_->hide();

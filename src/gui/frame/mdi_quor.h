@@ -20,6 +20,7 @@ class QToolButton;
 namespace quor::ui {
 
 class Oberflaeche;
+class DatenEditorSteuerung;
 class Graph2DSteuerung;
 class Graph3DSteuerung;
 class ModellFenster;
@@ -52,6 +53,7 @@ public:
   RechnungSteuerung* Rechnung() const { return rechnung_; }
   Graph2DSteuerung* Graf2D() const { return graf2d_; }
   Graph3DSteuerung* Graf3D() const { return graf3d_; }
+  DatenEditorSteuerung* Editoren() const { return editoren_; }
 
   // Enabled entries and buttons, status bar panels and Ampel from the project state.
   void Aktualisieren();
@@ -86,9 +88,10 @@ private:
   StoffWahlFenster* stoffWahl_ = nullptr;
   ModellFenster* modell_ = nullptr;
   QMdiSubWindow* modellFenster_ = nullptr;
-  RechnungSteuerung* rechnung_ = nullptr; // the windows of the state calculations
-  Graph2DSteuerung* graf2d_ = nullptr;    // the 2D diagram page
-  Graph3DSteuerung* graf3d_ = nullptr;    // the 3D diagram page
+  RechnungSteuerung* rechnung_ = nullptr;    // the windows of the state calculations
+  Graph2DSteuerung* graf2d_ = nullptr;       // the 2D diagram page
+  Graph3DSteuerung* graf3d_ = nullptr;       // the 3D diagram page
+  DatenEditorSteuerung* editoren_ = nullptr; // the X-Y editor and the measured-data editor
 };
 
 } // namespace quor::ui

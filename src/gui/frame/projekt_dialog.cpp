@@ -1,5 +1,7 @@
 #include "gui/frame/projekt_dialog.h"
 
+#include "core/projekt_datei.h"
+#include "fitting/batch_datei.h"
 #include "substance/projekt_laden.h"
 
 #include <QDialogButtonBox>
@@ -126,6 +128,21 @@ std::string ProjektDateiWaehlen(ProjectState& s, Oberflaeche& ui, QWidget* elter
   const std::string& start =
       p.ProjektVerzeichnis.empty() ? s.Datenbank.ProgrammVerzeichnis : p.ProjektVerzeichnis;
   dialog.Laden(titel, muster, start, p.ProjektDatei);
+  if (dialog.exec() != QDialog::Accepted) return std::string();
+  const DateiWahl wahl = dialog.Logik().Ergebnis();
+  return wahl.cancelled ? std::string() : wahl.Pfad;
+}
+
+std::string BatchDateiWaehlen(ProjectState& s, QWidget* eltern, const std::string& titel,
+                              const std::string& muster) {
+  ProjektDialogFenster dialog(
+      [](const std::string& pfad, std::string& text) { return BatchVorschau(pfad, text); }, eltern);
+  const MessdatenGruppe& m = s.Mess;
+  const ProjektGruppe& p = s.Projekt;
+  const std::string start = !m.BatchDateiPfad.empty()       ? VerzeichnisTeil(m.BatchDateiPfad)
+                            : !p.ProjektVerzeichnis.empty() ? p.ProjektVerzeichnis
+                                                            : s.Datenbank.ProgrammVerzeichnis;
+  dialog.Laden(titel, muster, start, m.BatchDateiTitel);
   if (dialog.exec() != QDialog::Accepted) return std::string();
   const DateiWahl wahl = dialog.Logik().Ergebnis();
   return wahl.cancelled ? std::string() : wahl.Pfad;

@@ -52,4 +52,9 @@ private:
 std::string ProjektDateiWaehlen(ProjectState& s, Oberflaeche& ui, QWidget* eltern, const std::string& titel,
                                 const std::string& muster);
 
+// The same dialog for a measured-data file, with the file's first lines as preview, starting in the
+// folder of the last such file (else the project directory or the program's).
+std::string BatchDateiWaehlen(ProjectState& s, QWidget* eltern, const std::string& titel,
+                              const std::string& muster);
+
 } // namespace quor::ui

@@ -1,6 +1,7 @@
 #include "gui/frame/rahmen_dienste.h"
 
 #include "engine/eos_parameter.h"
+#include "fitting/batch_datei.h"
 #include "gui/frame/projekt_dialog_dienste.h"
 #include "substance/datenbank.h"
 
@@ -28,6 +29,7 @@ RahmenDienste StandardDienste(Oberflaeche& ui) {
   d.DatenbankWaehlen = [&ui](ProjectState& s, int typ) { return DatenbankWaehlenUndOeffnen(s, typ, ui); };
   d.ParameterEOSText = [](ProjectState& s) { return ParameterEOSText(s); };
   d.ParameterEOSTitel = ParameterEOSTitel;
+  d.BatchDateiLaden = [&ui](ProjectState& s, const std::string& pfad) { return LadeBatchDatei(s, ui, pfad); };
   ProjektDiensteOhneFenster(d, ui);
   return d;
 }

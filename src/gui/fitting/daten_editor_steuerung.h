@@ -1,0 +1,64 @@
+// The data editors in the main frame: the X-Y editor and the editor of the substance's measured data
+// as child windows of the work area, opened or brought forward by the data menu and the toolbar, and
+// the points they draw, which go into the 2D page on show or into a new page made for them.
+#pragma once
+
+#include "gui/fitting/tprho_editor_fenster.h"
+#include "gui/fitting/xy_editor_fenster.h"
+
+#include <QMdiSubWindow>
+#include <QObject>
+#include <QPointer>
+
+class QMdiArea;
+
+namespace quor::ui {
+
+class Graph2DSteuerung;
+class Oberflaeche;
+
+class DatenEditorSteuerung : public QObject {
+  Q_OBJECT
+
+public:
+  DatenEditorSteuerung(ProjectState& s, Oberflaeche& ui, QMdiArea* flaeche, Graph2DSteuerung* graf2d,
+                       QWidget* rahmen);
+
+  // mnuData_EditXY: the X-Y editor, opened or brought forward.
+  void XYEditorZeigen();
+  // mnuData_BatchEdit: the measured-data editor with the data held, opened or brought forward.
+  void MessdatenEditorZeigen();
+  // mnuData_BatchInput, after the frame's question: the data held are cleared, then the editor shows.
+  void MessdatenNeu();
+  // Another substance: the measured-data editor closes without its question about unsaved data.
+  void MessdatenEditorSchliessen();
+  // The points of an editor into the 2D page on show, or into a new page made for their diagram.
+  void PunkteZeichnen(const DiagrammPunkte& p);
+
+  XYEditorFenster* XYEditor() const { return xy_; }
+  QMdiSubWindow* XYFenster() const { return xyFenster_; }
+  TpRhoEditorFenster* MessdatenEditor() const { return tprho_; }
+  QMdiSubWindow* MessdatenFenster() const { return tprhoFenster_; }
+
+  // The open dialog with preview for .BAQ files; without it the editor asks the plain file dialog.
+  frmTpRhoEdit::DateiWahlFunktion BatchDateiWaehlen;
+
+signals:
+  // The measured data may have changed: the frame's data button follows their count.
+  void datenGeaendert();
+
+private:
+  QMdiSubWindow* Einsetzen(QWidget* editor, const char* name, const QPoint& ecke);
+
+  ProjectState& s_;
+  Oberflaeche& ui_;
+  QMdiArea* flaeche_;
+  Graph2DSteuerung* graf2d_;
+  QWidget* rahmen_;
+  QPointer<XYEditorFenster> xy_;
+  QPointer<QMdiSubWindow> xyFenster_;
+  QPointer<TpRhoEditorFenster> tprho_;
+  QPointer<QMdiSubWindow> tprhoFenster_;
+};
+
+} // namespace quor::ui
