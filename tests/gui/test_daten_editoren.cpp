@@ -68,6 +68,70 @@ void ZelleTippen(DatenTabellenAnsicht* t, int zeile, int spalte, const QString& 
   QApplication::processEvents();
 }
 
+// Every control of the window carries the field of the logic it stands for.
+void ZeigtLogik(XYEditorFenster* w) {
+  const frmQXYEdit& l = w->Logik();
+  test::Texte({{w->windowTitle(), l.Caption},
+               {w->Feld("txtComment")->text(), l.txtComment},
+               {w->Feld("txtX")->text(), l.txtX},
+               {w->Feld("txtY")->text(), l.txtY},
+               {w->Feld("txtW")->text(), l.txtW}});
+  test::Frei({{w->Knopf("cmdSave"), l.cmdSaveEnabled},
+              {w->Knopf("cmdPrint"), l.cmdPrintEnabled},
+              {w->Knopf("cmdErase"), l.cmdEraseEnabled},
+              {w->Knopf("cmdEraseSelected"), l.cmdEraseSelectedEnabled},
+              {w->Knopf("cmdAus"), l.cmdAusEnabled},
+              {w->Knopf("cmdChangeXY"), l.cmdChangeXYEnabled},
+              {w->Knopf("cmdManip"), l.cmdManipEnabled},
+              {w->Knopf("cmdClipboard"), l.cmdClipboardEnabled},
+              {w->Knopf("cmdDrawXY"), l.cmdDrawXYEnabled},
+              {w->Knopf("XSort"), l.XSortEnabled},
+              {w->Knopf("YSort"), l.YSortEnabled},
+              {w->Knopf("cmdFitting"), l.cmdFittingEnabled}});
+  test::Sichtbar(
+      {{w->Knopf("cmdFitting"), l.FittingAngeboten}, {w->Umrechnungsrahmen(), l.fraManipulationVisible}});
+  test::An({{w->Modus(l.optInputMode), true}, {w->Umrechnung(l.optManip), true}});
+  EXPECT_EQ(w->Modell()->rowCount(), std::max(l.XYAnzahl(), 1));
+}
+
+void ZeigtLogik(TpRhoEditorFenster* w) {
+  const frmTpRhoEdit& l = w->Logik();
+  test::Texte({{w->windowTitle(), l.Caption},
+               {w->Kommentar()->text(), l.txtComment},
+               {w->Mol()->text(), l.txtMol},
+               {w->Label("lblZeile")->text(), l.lblZeile},
+               {w->Label("lblRhoV")->text(), l.lblRhoV},
+               {w->Label("lblRhoL")->text(), l.lblRhoL},
+               {w->Label("lblPEinheit")->text(), l.lblPEinheit},
+               {w->Label("lblRhoEinheit")->text(), l.lblRhoEinheit},
+               {w->Option("opt_Rho_Unit", einheit::Volumen)->toolTip(), l.opt_Rho_UnitToolTip}});
+  for (int i = 0; i < tprho::Spalten; ++i)
+    test::Texte({{w->Feld(i)->text(), l.y[static_cast<std::size_t>(i)]}});
+  test::Frei({{w->Knopf("cmdBatchAdd"), l.cmdBatchAddEnabled},
+              {w->Knopf("cmdBatchSave"), l.cmdBatchSaveEnabled},
+              {w->Knopf("cmdErase"), l.cmdEraseEnabled},
+              {w->Knopf("cmdAus"), l.cmdAusEnabled},
+              {w->Knopf("cmdPrintTpVListe"), l.cmdPrintTpVListeEnabled},
+              {w->Knopf("cmdSaveXY"), l.cmdSaveXYEnabled},
+              {w->Knopf("TSort"), l.TSortEnabled},
+              {w->Knopf("pSort"), l.pSortEnabled},
+              {w->Knopf("cmdGraphFunction"), l.cmdGraphFunctionEnabled},
+              {w->Knopf("cmdlogGraf"), l.cmdlogGrafEnabled},
+              {w->Knopf("cmdFitting"), l.cmdFittingEnabled},
+              {w->Option("opt_Rho_Unit", einheit::Volumen), l.opt_Rho_UnitVolumenEnabled},
+              {w->Option("optInputMode", ZeileEditieren), l.optInputModeEditierenEnabled}});
+  test::Sichtbar({{w->Knopf("cmdFitting"), l.FittingAngeboten}});
+  test::An({{w->Option("opt_T_unit", l.opt_T_unit), true},
+            {w->Option("opt_p_Unit", l.opt_p_Unit), true},
+            {w->Option("opt_Rho_Unit", l.opt_Rho_Unit), true},
+            {w->Option("optInputMode", l.optInputMode), true}});
+  for (int k = 1; k < tprho::Spalten; ++k) {
+    test::Frei({{w->Option("optFitFunction", k), l.optFitFunctionEnabled[static_cast<std::size_t>(k)]}});
+    test::An({{w->Option("optFitFunction", k), l.optFitFunction == k}});
+  }
+  EXPECT_EQ(w->Modell()->rowCount(), std::max(l.Grid.Anzahl(), 1));
+}
+
 TEST(XYEditorFenster, TypedPastedAndEditedRowsReachTheLogicAndTheGrid) {
   Editoren p;
   p.Menue("mnuData_EditXY");
@@ -77,7 +141,7 @@ TEST(XYEditorFenster, TypedPastedAndEditedRowsReachTheLogicAndTheGrid) {
   DatenTabellenModell* m = xy->Modell();
   EXPECT_EQ(Zelle(m, 0, NummerSpalte), "leere Liste");
   EXPECT_FALSE(xy->Knopf("cmdSave")->isEnabled());
-  EXPECT_TRUE(xy->Knopf("cmdFitting")->isHidden());
+  ZeigtLogik(xy);
 
   // "+" in a field takes the row over, "," is the decimal mark, a letter is no key of a number.
   test::Tippen(xy->Feld("txtX"), "1,5");
@@ -91,7 +155,7 @@ TEST(XYEditorFenster, TypedPastedAndEditedRowsReachTheLogicAndTheGrid) {
   EXPECT_EQ(t.Zeile(0).Werte, (std::vector<double>{1.5, 2}));
   EXPECT_EQ(t.Zeile(1).Werte, (std::vector<double>{3, 2}));
   EXPECT_EQ(Zelle(m, 0, ErsteDatenSpalte), " 1.5");
-  EXPECT_TRUE(xy->Knopf("cmdSave")->isEnabled() && xy->Knopf("XSort")->isEnabled());
+  ZeigtLogik(xy);
 
   // Ctrl+V at the current cell: the second row is overwritten, a third one grows, the trailing line
   // break leaves no empty row.
@@ -131,6 +195,7 @@ TEST(XYEditorFenster, TypedPastedAndEditedRowsReachTheLogicAndTheGrid) {
   EXPECT_EQ(t.Zeile(0).Werte[1], 2);   // inactive: unchanged
   EXPECT_EQ(t.Zeile(1).Werte[1], 0.5); // 0 + 0.5
   EXPECT_EQ(Zelle(m, 2, ErsteDatenSpalte + 1), " 0.5");
+  ZeigtLogik(xy);
 }
 
 TEST(XYEditorFenster, DrawingOpensAPageForThePointsAndACurveOfThePageComesBack) {
@@ -187,6 +252,12 @@ TEST(XYEditorFenster, ClosingWithUnsavedRowsAsksAndCancelKeepsTheWindow) {
   ASSERT_NE(p.E().XYEditor(), nullptr);
   EXPECT_TRUE(p.E().XYFenster()->isVisible());
 
+  // Ending the program asks too; "Abbrechen" keeps it running.
+  p.ui.antworten = {Antwort::Abbrechen};
+  EXPECT_FALSE(p.fenster->close());
+  EXPECT_FALSE(p.fenster->Logik().Beendet());
+  EXPECT_EQ(p.ui.Letzte().text, "Die Daten wurden noch nicht gespeichert.\r\nJetzt speichern?");
+
   p.ui.antworten = {Antwort::Nein};
   xy->Knopf("Edit_OK")->click();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -235,8 +306,10 @@ TEST(TpRhoEditorFenster, ALoadedFileFillsTheGridTheUnitsRewriteTheFieldsAndThePo
   TpRhoEditorFenster* w = p.E().MessdatenEditor();
   ASSERT_NE(w, nullptr);
   EXPECT_EQ(w->windowTitle().toStdString(), frmTpRhoEdit::TitelNeu);
+  ZeigtLogik(w);
   p.Laden(w);
   ASSERT_EQ(p.s.Mess.ExpAnzahl, 4);
+  ZeigtLogik(w);
   EXPECT_TRUE(p.fenster->Knopf(22)->isEnabled());
   EXPECT_EQ(w->windowTitle().toStdString(), " experimentelle Daten, Methan (File methan.BAQ)");
   EXPECT_EQ(w->Kommentar()->text(), "Sättigung");
@@ -267,6 +340,7 @@ TEST(TpRhoEditorFenster, ALoadedFileFillsTheGridTheUnitsRewriteTheFieldsAndThePo
   // v = M n / rho with n = 1 kmol: 16.043 / 409.7 (the molar mass of methane).
   EXPECT_REL(w->Feld(tprho::RhoL)->text().toDouble(), p.s.Stoff.MolMasse / 409.7, 1e-5);
   EXPECT_EQ(w->Label("lblRhoL")->text(), "v_L");
+  ZeigtLogik(w);
 
   // The control diagram y(T) opens a page with all four rows; ln p over 1/T refuses the row without p.
   w->Knopf("cmdGraphFunction")->click();
@@ -307,6 +381,7 @@ TEST(TpRhoEditorFenster, NewInputClearsTheDataAfterTheQuestionAndAnotherSubstanc
   EXPECT_EQ(Zelle(w->Modell(), 0, NummerSpalte), "leere Liste");
   EXPECT_EQ(w->windowTitle().toStdString(), frmTpRhoEdit::TitelNeu);
   EXPECT_FALSE(p.fenster->Knopf(22)->isEnabled());
+  ZeigtLogik(w);
 
   // A typed row with unsaved changes; another substance closes the editor without the save question.
   test::Tippen(w->Feld(tprho::T), "100");

@@ -75,6 +75,12 @@ void DatenEditorSteuerung::MessdatenNeu() {
   MessdatenEditorZeigen();
 }
 
+bool DatenEditorSteuerung::Schliessen() {
+  for (QMdiSubWindow* fenster : {xyFenster_.data(), tprhoFenster_.data()})
+    if (fenster && !fenster->close()) return false;
+  return true;
+}
+
 // The question would come after the change: a save would then write the new substance into the
 // file's substance line, and "Abbrechen" could not keep the former substance. The data stay in memory
 // as the substance choice or the project left them, with their flag of unsaved changes.

@@ -30,6 +30,9 @@ public:
   void MessdatenEditorZeigen();
   // mnuData_BatchInput, after the frame's question: the data held are cleared, then the editor shows.
   void MessdatenNeu();
+  // The program ends: both editors close after their questions about unsaved data; false when the
+  // user keeps one open.
+  bool Schliessen();
   // Another substance: the measured-data editor closes without its question about unsaved data.
   void MessdatenEditorSchliessen();
   // The points of an editor into the 2D page on show, or into a new page made for their diagram.

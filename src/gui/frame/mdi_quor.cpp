@@ -303,6 +303,11 @@ void mdiQUOR::StoffFensterSchliessen() {
 }
 
 void mdiQUOR::closeEvent(QCloseEvent* ereignis) {
+  // Unsaved data of an editor are asked about first; "Abbrechen" keeps the program running.
+  if (!editoren_->Schliessen()) {
+    ereignis->ignore();
+    return;
+  }
   logik_->Beenden();
   ereignis->accept();
 }
