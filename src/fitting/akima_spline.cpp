@@ -134,9 +134,10 @@ bool SplineBerechnen(double Sm, int n, const std::vector<double>& x, const std::
   return true;
 }
 
-double SplineWert(int art, int& k, double x, const AkimaSpline& sp) {
+namespace {
+
+double Auswerten(int art, int& k, double x, const AkimaSpline& sp) {
   const int n = sp.SplineN;
-  if (n < 2 || !std::isfinite(x)) return 0;
   const auto& X = sp.SplineX;
   if (x >= X[n - 1]) return (x - X[n - 1]) * sp.SplineB[n - 1] + sp.SplineY[n - 1];
   if (x < X[0]) return (x - X[0]) * sp.SplineB[0] + sp.SplineY[0];
@@ -148,6 +149,15 @@ double SplineWert(int art, int& k, double x, const AkimaSpline& sp) {
   const double d = x - X[k];
   if (art == 1) return (3 * sp.SplineD[k] * d + 2 * sp.SplineC[k]) * d + sp.SplineB[k];
   return ((sp.SplineD[k] * d + sp.SplineC[k]) * d + sp.SplineB[k]) * d + sp.SplineY[k];
+}
+
+} // namespace
+
+// A value beyond the number range, far out on the straight continuation, gives 0.
+double SplineWert(int art, int& k, double x, const AkimaSpline& sp) {
+  if (sp.SplineN < 2 || !std::isfinite(x)) return 0;
+  const double y = Auswerten(art, k, x, sp);
+  return std::isfinite(y) ? y : 0;
 }
 
 // The piece's number and its coefficients, left-aligned and cut to 3 and 7 characters.

@@ -41,7 +41,7 @@ bool SplineBerechnen(double Sm, int n, const std::vector<double>& x, const std::
 
 // y (art 0) or y' (art 1) at x; k is the piece to start the search from and is left at the piece
 // found. Outside the data both arts give the value of the straight continuation. 0 for an empty
-// spline.
+// spline, or where the value is beyond the number range.
 double SplineWert(int art, int& k, double x, const AkimaSpline& sp);
 
 // The list "Spline-Parameter anzeigen", lines joined by CR LF, and the viewer's title.

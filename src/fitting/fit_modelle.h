@@ -11,7 +11,9 @@
 //     of a negative number, division by zero); y is 0 and means nothing.
 // Models 0 and 1 evaluate the polynomial and the combined expression with the regression's
 // coefficients. The DIPPR heat capacity (18) keeps its A in eos.c0 while it runs and leaves it
-// there, so it overwrites that constant of the current equation of state.
+// there, so it overwrites that constant of the current equation of state. The cp polynomial (16)
+// offers a fifth parameter that its formula does not use: left free, it stays at its start value
+// and makes the matrix of the standard deviations singular (-9999).
 //
 // ModellWaehlen sets a FitZustand up for a model as choosing it in the dialog does.
 #pragma once

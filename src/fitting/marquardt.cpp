@@ -164,7 +164,7 @@ void Lauf::Ausfuehren() {
 void Lauf::Vorbereiten() {
   nfix_ = n_;
   for (int i = 0; i < n_; ++i) {
-    const ParameterGrenzen gr = GrenzenVon(z_.FitModell, i);
+    const ParameterGrenzen gr = ParameterGrenzenVon(z_.FitModell, i);
     unten_[i] = gr.Unten;
     oben_[i] = gr.Oben;
     maske_[i] = z_.FitFix[i] ? 0 : 1;
@@ -323,7 +323,7 @@ void Lauf::Abtasten() {
 
 } // namespace
 
-ParameterGrenzen GrenzenVon(int16_t modell, int i) {
+ParameterGrenzen ParameterGrenzenVon(int16_t modell, int i) {
   if (modell == fitmodell::Reserviert2) return {-1e20, 1e20};
   if (i == 0) return {-5000, 5000};
   if (i == 3) return {-10000, 10000};

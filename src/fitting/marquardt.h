@@ -29,7 +29,7 @@ namespace quor {
 struct ParameterGrenzen {
   double Unten, Oben;
 };
-ParameterGrenzen GrenzenVon(int16_t modell, int i);
+ParameterGrenzen ParameterGrenzenVon(int16_t modell, int i);
 
 void ResiduumBerechnen(ProjectState& s, const FitZustand& z, int i, const FitParameter& b, double& r);
 void FQSBerechnen(ProjectState& s, const FitZustand& z, const FitParameter& b, double& S, int& ifn);
