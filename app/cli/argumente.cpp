@@ -55,7 +55,7 @@ const Option Optionen[] = {
     {"--sections", true, "calc batch"},
     {"--functions", false, "calc batch"},
     {"--ref-point", true, "calc batch"},
-    {"--data", true, "batch"},
+    {"--data", true, "batch fit"},
     {"--lst", true, "batch"},
     {"--csv", true, "batch"},
     {"--details", false, "batch"},
@@ -69,6 +69,16 @@ const Option Optionen[] = {
     {"--s-loop", false, "curve"},
     {"--real", false, "curve surface"},
     {"--tie-line", false, "curve"},
+    {"--column", true, "fit"},
+    {"--log", false, "fit"},
+    {"--lg", false, "fit"},
+    {"--start", true, "fit"},
+    {"--fix", true, "fit"},
+    {"--tcr", true, "fit"},
+    {"--pcr", true, "fit"},
+    {"--smoothing", true, "fit"},
+    {"--eval", true, "fit"},
+    {"--apply", false, "fit"},
 };
 
 const Option* FindeOption(const std::string& name) {
@@ -141,6 +151,59 @@ std::array<double, 2> Bereich(const std::string& option, const std::string& text
   const std::array<double, 2> b{Zahl(option, text.substr(0, teil)), Zahl(option, text.substr(teil + 1))};
   if (!(b[0] < b[1])) throw Eingabefehler(option + " \"" + text + "\": the range must rise (A < B)");
   return b;
+}
+
+// A list of numbers "A,B,..." (";" separates when it is used, since "," is also a decimal mark); each
+// one checked, kept as typed.
+std::vector<std::string> ZahlenListe(const std::string& option, const std::string& text) {
+  const char trenner = text.find(';') != std::string::npos ? ';' : ',';
+  std::vector<std::string> teile(1);
+  for (const char c : text) {
+    if (c == trenner)
+      teile.emplace_back();
+    else
+      teile.back() += c;
+  }
+  for (const std::string& t : teile)
+    Zahl(option, t);
+  return teile;
+}
+
+int16_t FitSpalte(const std::string& text) {
+  const char* const namen[] = {"p", "rhov", "rhol", "hlv", "cp"};
+  for (int16_t i = 0; i < 5; ++i)
+    if (Klein(text) == namen[i]) return static_cast<int16_t>(i + 1);
+  throw Eingabefehler("--column \"" + text + "\": expected p, rhoV, rhoL, hlv or cp");
+}
+
+// The fit's own options.
+void FitOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& werte) {
+  auto hat = [&](const char* name) { return werte.count(name) != 0; };
+  auto wert = [&](const char* name) { return werte.at(name); };
+  if (hat("--column")) a.Spalte = FitSpalte(wert("--column"));
+  a.LogFit = hat("--log");
+  a.Lg = hat("--lg");
+  a.Uebernehmen = hat("--apply");
+  if (hat("--start")) a.Start = ZahlenListe("--start", wert("--start"));
+  if (a.Start.size() > 7) throw Eingabefehler("--start: at most seven values");
+  if (hat("--fix"))
+    for (const std::string& t : ZahlenListe("--fix", wert("--fix")))
+      a.Fix.push_back(Ganzzahl("--fix", t, 1, 7));
+  for (const auto& [name, ziel] : {std::pair{"--tcr", &a.Tcr}, std::pair{"--pcr", &a.Pcr}}) {
+    if (!hat(name)) continue;
+    Zahl(name, wert(name));
+    *ziel = wert(name);
+  }
+  if (hat("--smoothing")) {
+    const double sm = Zahl("--smoothing", wert("--smoothing"));
+    if (!(sm >= 0 && sm <= 1000))
+      throw Eingabefehler("--smoothing " + wert("--smoothing") + ": expected 0 to 1000");
+    a.Glaettung = wert("--smoothing");
+  }
+  if (hat("--eval"))
+    for (const std::string& t : ZahlenListe("--eval", wert("--eval")))
+      a.Stellen.push_back(Zahl("--eval", t));
+  if (a.Befehl == "fit" && a.Daten.empty()) throw Eingabefehler("fit needs --data FILE.XY or FILE.BAQ");
 }
 
 bool ArtErlaubt(const std::string& befehl, int a) {
@@ -244,10 +307,11 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   if (a.Hilfe) return a;
 
   if (positionen.empty())
-    throw Eingabefehler("no command given (list, info, calc, batch, curve, surface; see quor-cli --help)");
+    throw Eingabefehler(
+        "no command given (list, info, calc, batch, curve, surface, fit; see quor-cli --help)");
   a.Befehl = positionen[0];
   if (a.Befehl != "list" && a.Befehl != "info" && a.Befehl != "calc" && a.Befehl != "batch" &&
-      a.Befehl != "curve" && a.Befehl != "surface")
+      a.Befehl != "curve" && a.Befehl != "surface" && a.Befehl != "fit")
     throw Eingabefehler("unknown command '" + a.Befehl + "' (see quor-cli --help)");
   const bool mitArt = a.Befehl == "calc" || a.Befehl == "batch";
   if (mitArt) {
@@ -265,7 +329,14 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
     if (positionen.size() < 2) throw Eingabefehler("surface needs the surface's Art (see quor-cli --help)");
     a.Flaeche = Ganzzahl("Art", positionen[1], 1, 10);
   }
-  const std::size_t erwartet = mitArt || a.Befehl == "curve" || a.Befehl == "surface" ? 2 : 1;
+  if (a.Befehl == "fit") {
+    if (positionen.size() < 2) throw Eingabefehler("fit needs the model code (see quor-cli --help)");
+    a.Modell = static_cast<int16_t>(Ganzzahl("model", positionen[1], 0, 19));
+    if (a.Modell == 2 || a.Modell == 12 || a.Modell == 13)
+      throw Eingabefehler("model " + positionen[1] + " is a reserved code");
+  }
+  const bool mitZweitem = mitArt || a.Befehl == "curve" || a.Befehl == "surface" || a.Befehl == "fit";
+  const std::size_t erwartet = mitZweitem ? 2 : 1;
   if (positionen.size() > erwartet) throw Eingabefehler("unexpected argument '" + positionen[erwartet] + "'");
 
   for (const std::string& name : a.Gegeben) {
@@ -315,6 +386,7 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   a.SSchleife = hat("--s-loop");
   a.Real = hat("--real");
   a.Konnode = hat("--tie-line");
+  FitOptionenLesen(a, werte);
   return a;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <set>
@@ -28,7 +29,7 @@ struct Aufruf {
   bool Json = false;
   bool Hilfe = false;
 
-  std::string Befehl; // list, info, calc, batch, curve, surface
+  std::string Befehl; // list, info, calc, batch, curve, surface, fit
   int Art = 0;        // kind of calc and batch
 
   // Options of calc and batch.
@@ -52,6 +53,17 @@ struct Aufruf {
   int Flaeche = 0;                               // the surface's Art, 1 to 10
   std::optional<std::array<double, 2>> ZBereich; // Z range, displayed units
   std::optional<int> NX, NY;                     // grid steps per axis
+
+  // Options of fit (with --data of batch).
+  int16_t Modell = 0;                  // the model code
+  int16_t Spalte = 1;                  // --column of a .BAQ file: 1 p, 2 rho(V), 3 rho(L), 4 delta(LV)h, 5 cp
+  bool LogFit = false, Lg = false;     // --log, --lg
+  bool Uebernehmen = false;            // --apply
+  std::vector<std::string> Start;      // texts of the start fields, checked numbers
+  std::vector<int> Fix;                // parameter numbers from 1
+  std::optional<std::string> Tcr, Pcr; // texts of the fields behind the parameters, checked numbers
+  std::optional<std::string> Glaettung; // Sm of the spline, a checked number from 0 to 1000
+  std::vector<double> Stellen;          // --eval
 
   std::set<std::string> Gegeben;           // every option named on the line
   std::map<std::string, std::string> Text; // the value of each option as typed

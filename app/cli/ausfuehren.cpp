@@ -23,6 +23,7 @@ int Ausfuehren(const std::vector<std::string>& argumente, std::ostream& aus, std
     if (gespeichert.Befehl == "calc") return BefehlCalc(*z, aus, fehler);
     if (gespeichert.Befehl == "curve") return BefehlCurve(*z, aus, fehler);
     if (gespeichert.Befehl == "surface") return BefehlSurface(*z, aus, fehler);
+    if (gespeichert.Befehl == "fit") return BefehlFit(*z, aus, fehler);
     return BefehlBatch(*z, aus, fehler);
   } catch (const CliFehler& e) {
     if (z) MeldungenSchreiben(fehler, Meldungen(z->ui, z->Gedruckt, z->ui.protokoll.size()));

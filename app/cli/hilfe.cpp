@@ -24,6 +24,11 @@ Commands:
   surface ART [options]   one surface of the 3D diagram over a grid: title, axis texts, then
                           "X Y Z" per grid point, row by row with an empty line after each row
                           (displayed units; "-" for a point without a value)
+  fit MODEL --data FILE [options]
+                          a model of the fitting dialog fitted to the points of an .XY file
+                          or to a column of a .BAQ file: the results frame, the parameters
+                          with their standard deviations, the values at --eval points;
+                          --apply takes the parameters over into the substance's data
 
 Kinds (KIND):
   1  T, rho(V) => p          2  T, rho(L) => p          3  T, p => rho
@@ -76,6 +81,30 @@ Options of surface:
   Arts (ART): 1 p(v, T), 2 v(p, T), 3 T(v, p), 4 cp(p, T), 5 u(p, T), 6 h(p, T), 7 s(p, T),
   8 g(p, T), 9 exergy of u, 10 exergy of h; x, y are v, T (1), p, T (2), v, p (3), p, T (4 to 10).
 
+Options of fit:
+  --data FILE             .XY points (x;y, all active), or a .BAQ measured-data file (needs
+                          --substance) sent as the measured-data editor sends a column
+  --column p|rhoV|rhoL|hlv|cp
+                          the column of a .BAQ file (default p; the p column fits ln p)
+  --log                   the sum of squares of ln y
+  --lg                    the decimal form of a vapour-pressure model (3 to 7), chosen before
+                          the model so that its start values follow
+  --start A,B,...         the start fields in the dialog's order (";" may separate)
+  --fix I,J,...           fix parameters I, J (1 = A); a fixed term of models 0 and 1 is left
+                          out, in the others the parameter keeps the --start value (default 0)
+  --tcr X, --pcr X        Tcr/K and pcr/kPa of the models that need them (default: the
+                          substance's critical point)
+  --smoothing X           Sm of the spline (model 19), 0 to 1000
+  --eval X1,X2,...        the fitted function at these x (T in K)
+  --apply                 write the parameters into the substance's parameter set (the
+                          heat capacity into the ideal-gas set) and list what changed
+  Models (MODEL): 0 polynomial, 1 combined expression, 19 Akima spline; vapour pressure
+  3 August, 4 Antoine, 5 Frost-Kalkwarf, 6 Frost-Kalkwarf-Thodos, 7 DIPPR, 8 Wagner; liquid
+  density 9 Rackett, 10 Leuna, 11 polynomial; delta(LV)h 14 Majer, 15 DIPPR; cp 16
+  polynomial, 17 Shomate, 18 DIPPR.
+  JSON: {"model", "n_active", "parameters", "stdev", "FQS", "sR", "values", "messages"},
+  with --apply also "applied" (field, old, new); a value that cannot be computed is null.
+
 Global options:
   --db PATH               database (.Q07, or .Q06); default QUOR.Q07 of the program directory
   --substance TEXT        list name, CAS number, system number (#123), or a synonym in German
@@ -110,7 +139,8 @@ Models are offered, defaulted and corrected as in the model window; a model that
 substance's data don't allow is refused. Messages of the program (German) go to stderr, in JSON
 output into "messages".
 
-Exit codes: 0 success, 1 the calculation failed, 2 usage or input error.
+Exit codes: 0 success, 1 the calculation failed (or the fit or its transfer was refused),
+2 usage or input error.
 )";
 }
 
