@@ -147,7 +147,7 @@ public:
   bool cmdAusEnabled = false, cmdPrintTpVListeEnabled = false, cmdSaveXYEnabled = false;
   bool TSortEnabled = false, pSortEnabled = false, cmdGraphFunctionEnabled = false;
   bool cmdFittingEnabled = false, cmdlogGrafEnabled = false;
-  bool FittingAngeboten = false; // the fitting dialog is not built yet: the view hides cmdFitting
+  bool FittingAngeboten = true; // the view shows cmdFitting
 
   int Piepser = 0; // beeps of refused table commands
   DateiWahlFunktion DateiWaehlen;

@@ -107,8 +107,8 @@ public:
 
   // What the fitting gets from cmdFitting.
   std::vector<FitPunkt> FitDaten;
-  // The fitting dialog is not offered yet: its button stays hidden.
-  bool FittingAngeboten = false;
+  // The fitting dialog is offered: its button shows.
+  bool FittingAngeboten = true;
 
   // Enabling by the row count (set after every change).
   bool cmdSaveEnabled = false, cmdPrintEnabled = false, cmdEraseEnabled = false;

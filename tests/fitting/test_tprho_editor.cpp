@@ -157,7 +157,7 @@ TEST(TpRhoEditor, FreigabenFolgenDerZeilenzahlUndDenGemessenenWerten) {
       EXPECT_EQ(b, f.zwei) << f.n;
     EXPECT_EQ(e.cmdFittingEnabled, f.drei);
     EXPECT_EQ(t.s.Projekt.Freigaben.ExpDaten, f.eins);
-    EXPECT_FALSE(e.FittingAngeboten);
+    EXPECT_TRUE(e.FittingAngeboten);
   }
 
   Editor t({Satz(300, 1, 0, 0, 40000), Satz(310, 0, 0, 0, 0, 75), Satz(0, 2), Satz(320, 0)});
