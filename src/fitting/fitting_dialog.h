@@ -21,8 +21,8 @@
 //   - Diagrams: cmdGraphFunction, cmdGraphResid and cmdGraphLnp return a FitDiagramm. The view puts
 //     its points into the open 2D page (cmdExternPoints with PunktQuelle::Fitting) and its curve
 //     (cmdExternKurve), or opens a page for Punkte.NeuesDiagramm first when none is open.
-//   - cmdSplineParAnzeigen returns the text window's content; cmdApply writes the substance data
-//     and tells the open substance editor and model window to show them anew.
+//   - cmdSplineParAnzeigen returns the text window's content to show; cmdApply writes the parameter
+//     set of the substance data in memory (the database file is written by the substance editor).
 // Every message goes through ui::Oberflaeche. After each call the view shows all fields anew.
 #pragma once
 

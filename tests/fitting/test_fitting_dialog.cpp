@@ -125,7 +125,6 @@ TEST(FittingDialog, AFixedLinearTermIsHiddenAndLeftOutAndReleasingItRestoresTheP
   FitDialog t;
   t.f.DatenLaden(test::Punkte([](double x) { return 1 + 2 * x + 3 * x * x; }, -2, 3, 9));
   t.f.optFit_Click(fm::Polynom);
-  EXPECT_EQ(t.f.lblFittingEq, "y = A + B x + C x^2 + D x^3 + E x^4 + F x^5");
   for (int i = 3; i < 6; ++i)
     t.f.chkFix_Click(i, true);
   EXPECT_EQ(t.f.txtStart[4], " 0.");
