@@ -3,9 +3,27 @@
 // diagram page.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace quor {
+
+// One state of a process line, engine units: eta is the degree of vaporization of a two-phase state;
+// a single phase has eta 1 (vapour) or 0 (liquid).
+struct ProzessZustand {
+  double T = 0, p = 0, v = 0, eta = 0;
+};
+
+// The process line that the process page hands to the curve engine (codes 201 to 211): its states,
+// whether they lie inside the two-phase region, the code of the diagram on show whose axes the line
+// takes, and the ends of a straight line in the axis units.
+struct ProzessUebergabe {
+  std::vector<ProzessZustand> Zustaende;
+  bool ProzessHetero = false;
+  int16_t DiagrammCode = 0;
+  float ProzessX1 = 0, ProzessY1 = 0, ProzessX2 = 0, ProzessY2 = 0;
+};
 
 struct DiagrammGruppe {
   double Isohygre = 0;           // vapour fraction x of a coexistence line: 0 boiling, 1 dew, 0.5 middle
@@ -18,6 +36,7 @@ struct DiagrammGruppe {
   // last diagram, picture or point file (empty: the program directory).
   bool OC2HinweisGezeigt = false;
   std::string DateiVerzeichnis;
+  ProzessUebergabe Prozess; // the process line to draw
 };
 
 } // namespace quor
