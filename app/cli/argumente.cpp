@@ -79,6 +79,15 @@ const Option Optionen[] = {
     {"--smoothing", true, "fit"},
     {"--eval", true, "fit"},
     {"--apply", false, "fit"},
+    {"--from", true, "process"},
+    {"--to-T", true, "process"},
+    {"--to-p", true, "process"},
+    {"--phase", true, "process"},
+    {"--hetero", false, "process"},
+    {"--n", true, "process"},
+    {"--kappa", true, "process"},
+    {"--ideal", false, "process"},
+    {"--eta", true, "process"},
 };
 
 const Option* FindeOption(const std::string& name) {
@@ -206,6 +215,37 @@ void FitOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& werte
   if (a.Befehl == "fit" && a.Daten.empty()) throw Eingabefehler("fit needs --data FILE.XY or FILE.BAQ");
 }
 
+// The process line's own options: the start, exactly one end, and what its kind takes.
+void ProzessOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& werte) {
+  if (a.Befehl != "process") return;
+  auto hat = [&](const char* name) { return werte.count(name) != 0; };
+  auto wert = [&](const char* name) { return werte.at(name); };
+  const std::string& k = a.Linie;
+  if (!hat("--from")) throw Eingabefehler("process needs --from T1,P1");
+  const std::vector<std::string> von = ZahlenListe("--from", wert("--from"));
+  if (von.size() != 2) throw Eingabefehler("--from \"" + wert("--from") + "\": expected two values T1,P1");
+  a.Von = std::array<double, 2>{Zahl("--from", von[0]), Zahl("--from", von[1])};
+  if (hat("--to-T") == hat("--to-p")) throw Eingabefehler("process needs either --to-T or --to-p");
+  if (hat("--to-T")) a.BisT = Zahl("--to-T", wert("--to-T"));
+  if (hat("--to-p")) a.BisP = Zahl("--to-p", wert("--to-p"));
+  if (hat("--phase")) {
+    const std::string ph = Klein(wert("--phase"));
+    if (ph != "v" && ph != "l") throw Eingabefehler("--phase \"" + wert("--phase") + "\": expected V or L");
+    a.ProzessPhase = ph == "v" ? 1 : 0;
+  }
+  a.Hetero = hat("--hetero");
+  if (a.Hetero && k != "isochore" && k != "isentrope" && k != "isenthalpe")
+    throw Eingabefehler("--hetero is for the isochore, isentrope and isenthalpe");
+  for (const char* name : {"--n", "--kappa", "--ideal"})
+    if (hat(name) && k != "polytrope") throw Eingabefehler(std::string(name) + " is for the polytrope");
+  if (hat("--eta") != (k == "eta")) throw Eingabefehler("the eta line, and only it, needs --eta");
+  if (k == "polytrope" && !hat("--n")) throw Eingabefehler("the polytrope needs --n");
+  if (hat("--n")) a.N = Zahl("--n", wert("--n"));
+  if (hat("--kappa")) a.Kappa = Zahl("--kappa", wert("--kappa"));
+  if (hat("--eta")) a.Eta = Zahl("--eta", wert("--eta"));
+  a.Ideal = hat("--ideal");
+}
+
 bool ArtErlaubt(const std::string& befehl, int a) {
   if (a < art::TRhoV || a > art::DbRhoS || a == art::Polytrope || a == art::OhneZweig) return false;
   return befehl != "batch" || !art::IstBehaelter(a);
@@ -308,10 +348,10 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
 
   if (positionen.empty())
     throw Eingabefehler(
-        "no command given (list, info, calc, batch, curve, surface, fit; see quor-cli --help)");
+        "no command given (list, info, calc, batch, curve, surface, fit, process; see quor-cli --help)");
   a.Befehl = positionen[0];
   if (a.Befehl != "list" && a.Befehl != "info" && a.Befehl != "calc" && a.Befehl != "batch" &&
-      a.Befehl != "curve" && a.Befehl != "surface" && a.Befehl != "fit")
+      a.Befehl != "curve" && a.Befehl != "surface" && a.Befehl != "fit" && a.Befehl != "process")
     throw Eingabefehler("unknown command '" + a.Befehl + "' (see quor-cli --help)");
   const bool mitArt = a.Befehl == "calc" || a.Befehl == "batch";
   if (mitArt) {
@@ -335,7 +375,16 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
     if (a.Modell == 2 || a.Modell == 12 || a.Modell == 13)
       throw Eingabefehler("model " + positionen[1] + " is a reserved code");
   }
-  const bool mitZweitem = mitArt || a.Befehl == "curve" || a.Befehl == "surface" || a.Befehl == "fit";
+  if (a.Befehl == "process") {
+    if (positionen.size() < 2) throw Eingabefehler("process needs the kind of line (see quor-cli --help)");
+    a.Linie = Klein(positionen[1]);
+    bool bekannt = false;
+    for (const char* k : {"isotherm", "isobar", "isochore", "isentrope", "isenthalpe", "polytrope", "eta"})
+      bekannt = bekannt || a.Linie == k;
+    if (!bekannt) throw Eingabefehler("unknown kind of line '" + positionen[1] + "' (see quor-cli --help)");
+  }
+  const bool mitZweitem =
+      mitArt || a.Befehl == "curve" || a.Befehl == "surface" || a.Befehl == "fit" || a.Befehl == "process";
   const std::size_t erwartet = mitZweitem ? 2 : 1;
   if (positionen.size() > erwartet) throw Eingabefehler("unexpected argument '" + positionen[erwartet] + "'");
 
@@ -387,6 +436,7 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   a.Real = hat("--real");
   a.Konnode = hat("--tie-line");
   FitOptionenLesen(a, werte);
+  ProzessOptionenLesen(a, werte);
   return a;
 }
 

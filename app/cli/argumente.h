@@ -29,7 +29,7 @@ struct Aufruf {
   bool Json = false;
   bool Hilfe = false;
 
-  std::string Befehl; // list, info, calc, batch, curve, surface, fit
+  std::string Befehl; // list, info, calc, batch, curve, surface, fit, process
   int Art = 0;        // kind of calc and batch
 
   // Options of calc and batch.
@@ -64,6 +64,14 @@ struct Aufruf {
   std::optional<std::string> Tcr, Pcr; // texts of the fields behind the parameters, checked numbers
   std::optional<std::string> Glaettung; // Sm of the spline, a checked number from 0 to 1000
   std::vector<double> Stellen;          // --eval
+
+  // Options of process.
+  std::string Linie; // isotherm, isobar, isochore, isentrope, isenthalpe, polytrope, eta
+  std::optional<std::array<double, 2>> Von; // --from T1,P1 (K, kPa)
+  std::optional<double> BisT, BisP;         // --to-T, --to-p: the end of the range
+  int16_t ProzessPhase = 1;                 // --phase: 1 V, 0 L
+  bool Hetero = false, Ideal = false;       // --hetero, --ideal
+  std::optional<double> N, Kappa, Eta;      // --n, --kappa, --eta
 
   std::set<std::string> Gegeben;           // every option named on the line
   std::map<std::string, std::string> Text; // the value of each option as typed

@@ -29,6 +29,10 @@ Commands:
                           or to a column of a .BAQ file: the results frame, the parameters
                           with their standard deviations, the values at --eval points;
                           --apply takes the parameters over into the substance's data
+  process KIND --from T1,P1 (--to-T X | --to-p X) [options]
+                          the states along a process line: "T p v h s eta" per point
+                          (K, kPa, m^3/kmol, kJ/kmol, kJ/(kmol K); eta the degree of
+                          vaporization)
 
 Kinds (KIND):
   1  T, rho(V) => p          2  T, rho(L) => p          3  T, p => rho
@@ -104,6 +108,22 @@ Options of fit:
   polynomial, 17 Shomate, 18 DIPPR.
   JSON: {"model", "n_active", "parameters", "stdev", "FQS", "sR", "values", "messages"},
   with --apply also "applied" (field, old, new); a value that cannot be computed is null.
+
+Options of process:
+  --from T1,P1            the start state in K and kPa (";" may separate); a two-phase line
+                          starts on the tie line of T1 (with --to-T) or of P1 (with --to-p)
+  --to-T X | --to-p X     the end of the range in K or kPa; 50 equal steps
+  --phase V|L             the phase of the line (default V); with --hetero the saturated
+                          phase whose quantity the line keeps
+  --hetero                the isochore, isentrope or isenthalpe inside the two-phase region,
+                          by the lever rule
+  --n N, --kappa K        polytropic exponent and cp/cV of the polytrope
+  --ideal                 the polytrope of the ideal gas (the only one computed here)
+  --eta X                 the degree of vaporization of the eta line, 0 to 1
+  Kinds (KIND): isotherm (--to-p), isobar (--to-T), isochore, isentrope, isenthalpe,
+  polytrope, eta. JSON: {"kind", "points": [{"T", "p", "v", "h", "s", "eta"}, ...],
+  "report": {"curve_code", "heterogeneous", "fixed_quantity", "fixed_value", "failed"},
+  "messages"}; a refused line has no points and its message.
 
 Global options:
   --db PATH               database (.Q07, or .Q06); default QUOR.Q07 of the program directory
