@@ -41,6 +41,7 @@ void DatenEditorSteuerung::XYEditorZeigen() {
       Graph2DFenster* seite = graf2d_->Seite();
       return seite ? &seite->Logik() : nullptr;
     };
+    xy_->FittingSenden = [this](const std::vector<FitPunkt>& p) { FittingMitPunkten(p); };
     xy_->Zeige();
     xyFenster_ = Einsetzen(xy_, "frmQXYEditFenster", QPoint(60, 40));
   }
@@ -53,6 +54,7 @@ void DatenEditorSteuerung::MessdatenEditorZeigen() {
     tprho_ = new TpRhoEditorFenster(s_, ui_);
     tprho_->Logik().DateiWaehlen = BatchDateiWaehlen;
     tprho_->PunkteZeichnen = [this](const DiagrammPunkte& p) { PunkteZeichnen(p); };
+    tprho_->FittingSenden = [this](const FitUebergabe& u) { FittingMitMessdaten(u); };
     connect(tprho_, &TpRhoEditorFenster::geaendert, this, &DatenEditorSteuerung::datenGeaendert);
     tprho_->Laden();
     tprhoFenster_ = Einsetzen(tprho_, "frmTpRhoEditFenster", QPoint(0, 0));
@@ -91,6 +93,51 @@ void DatenEditorSteuerung::MessdatenEditorSchliessen() {
 void DatenEditorSteuerung::PunkteZeichnen(const DiagrammPunkte& p) {
   Graph2DFenster* seite = graf2d_->SeiteFuer(p.NeuesDiagramm);
   seite->Logik().cmdExternPoints(p.X, p.Y, p.Quelle, p.Legende);
+  seite->Zeige();
+}
+
+// ----- the fitting dialog -----
+
+bool DatenEditorSteuerung::FittingHolen() {
+  if (fitting_) return false;
+  fitting_ = new FittingFenster(s_, ui_);
+  fitting_->DiagrammZeichnen = [this](const FitDiagramm& d) { FitDiagrammZeichnen(d); };
+  fitting_->TextZeigen = [this](const frmQTextEdit& t) {
+    if (TextZeigen) TextZeigen(t);
+  };
+  connect(fitting_, &FittingFenster::stoffGeaendert, this, &DatenEditorSteuerung::stoffGeaendert);
+  fittingFenster_ = Einsetzen(fitting_, "frmQFittingFenster", QPoint(30, 20));
+  return true;
+}
+
+void DatenEditorSteuerung::FittingVorne() {
+  fittingFenster_->show();
+  flaeche_->setActiveSubWindow(fittingFenster_);
+}
+
+void DatenEditorSteuerung::FittingZeigen() {
+  if (FittingHolen()) fitting_->Laden();
+  FittingVorne();
+}
+
+void DatenEditorSteuerung::FittingMitMessdaten(const FitUebergabe& u) {
+  FittingHolen();
+  fitting_->DatenLaden(u);
+  FittingVorne();
+}
+
+void DatenEditorSteuerung::FittingMitPunkten(const std::vector<FitPunkt>& punkte) {
+  FittingHolen();
+  fitting_->DatenLaden(punkte);
+  FittingVorne();
+}
+
+// The points first, then the curve; a page made for the diagram takes the ranges of both.
+void DatenEditorSteuerung::FitDiagrammZeichnen(const FitDiagramm& d) {
+  PunkteZeichnen(d.Punkte);
+  Graph2DFenster* seite = graf2d_->Seite();
+  if (!seite || d.KurveX.empty()) return;
+  seite->Logik().cmdExternKurve(d.KurveX, d.KurveY, d.KurvenLegende);
   seite->Zeige();
 }
 

@@ -250,7 +250,9 @@ QWidget* TpRhoEditorFenster::BaueKnoepfe() {
   auto* lnp = BefehlsKnopf("cmdlogGraf", Caption("cmdlogGraf"), Tipp("cmdlogGraf"), rechts);
   connect(grafik, &QPushButton::clicked, this, [this] { Zeichnen(false); });
   connect(lnp, &QPushButton::clicked, this, [this] { Zeichnen(true); });
-  gruppe({grafik, lnp, NeuerKnopf("cmdFitting", "zum Fitting senden", [&l] { l.cmdFitting(); })});
+  auto* fitting = BefehlsKnopf("cmdFitting", "zum Fitting senden", Tipp("cmdFitting"), rechts);
+  connect(fitting, &QPushButton::clicked, this, &TpRhoEditorFenster::ZumFitting);
+  gruppe({grafik, lnp, fitting});
   Knopf("cmdEraseSelected")->setToolTip("setzt die markierten Zellen auf 0; die Zeilen bleiben");
   Knopf("cmdClipboard")->setToolTip("markierte Zellen in die Zwischenablage");
   spalte->addStretch(1);
@@ -355,6 +357,13 @@ void TpRhoEditorFenster::Zeichnen(bool logarithmisch) {
   const std::optional<DiagrammPunkte> punkte =
       logarithmisch ? logik_.cmdlogGraf() : logik_.cmdGraphFunction();
   if (punkte && PunkteZeichnen) PunkteZeichnen(*punkte);
+}
+
+// The table is sorted by T on the way: it is shown anew before the dialog opens.
+void TpRhoEditorFenster::ZumFitting() {
+  FitUebergabe u;
+  Ausfuehren([this, &u] { u = logik_.cmdFitting(); });
+  if (FittingSenden) FittingSenden(u);
 }
 
 void TpRhoEditorFenster::SchliessenOhneFrage() {

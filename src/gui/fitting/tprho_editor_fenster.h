@@ -51,8 +51,9 @@ public:
   // "lblZeile", "lblDichte", "lblRhoV", "lblRhoL", "lblTEinheit", "lblPEinheit", "lblRhoEinheit" ...
   QLabel* Label(const QString& name) const;
 
-  // The frame's service: points into the 2D page.
+  // The frame's services: points into the 2D page, a column into the fitting dialog.
   std::function<void(const DiagrammPunkte&)> PunkteZeichnen;
+  std::function<void(const FitUebergabe&)> FittingSenden;
 
 signals:
   // After each action: the measured data and with them the frame's data button may have changed.
@@ -78,6 +79,7 @@ private:
   void FelderNehmen();
   void FelderZeigen(); // everything but the grid
   void Zeichnen(bool logarithmisch);
+  void ZumFitting();
 
   frmTpRhoEdit logik_;
   DatenTabellenModell* modell_ = nullptr;

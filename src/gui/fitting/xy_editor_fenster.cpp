@@ -166,9 +166,9 @@ QWidget* XYEditorFenster::BaueKnoepfe() {
                   [&l] { l.cmdErase(); }),
        nullptr);
   paar(8,
-       NeuerKnopf("cmdFitting", Zeilen(frmQXYEdit::FittingText), "aktive Punkte zum Fitting senden",
-                  [&l] { l.cmdFitting(); }),
+       BefehlsKnopf("cmdFitting", Zeilen(frmQXYEdit::FittingText), "aktive Punkte zum Fitting senden", this),
        nullptr);
+  connect(Knopf("cmdFitting"), &QPushButton::clicked, this, &XYEditorFenster::ZumFitting);
 
   auto* schliessen = BefehlsKnopf("Edit_OK", TpRhoText("Edit_OK")->Caption, "", this);
   connect(schliessen, &QPushButton::clicked, this, [this] { FensterSchliessen(this); });
@@ -285,6 +285,12 @@ void XYEditorFenster::Zeichnen() {
   tabelle_->AuswahlSchreiben();
   const std::optional<DiagrammPunkte> punkte = logik_.cmdDrawXY();
   if (punkte && PunkteZeichnen) PunkteZeichnen(*punkte);
+}
+
+void XYEditorFenster::ZumFitting() {
+  bool gesendet = false;
+  Ausfuehren([this, &gesendet] { gesendet = logik_.cmdFitting(); });
+  if (gesendet && FittingSenden) FittingSenden(logik_.FitDaten);
 }
 
 void XYEditorFenster::KurvenMenueFuellen() {

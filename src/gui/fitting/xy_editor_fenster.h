@@ -46,9 +46,11 @@ public:
   // The choice of the 2D page's curves under "Kurve aus 2D-Diagramm übernehmen", built anew.
   void KurvenMenueFuellen();
 
-  // The frame's services: points into the 2D page, and the page on show (null when none).
+  // The frame's services: points into the 2D page, the page on show (null when none), and the
+  // active points into the fitting dialog.
   std::function<void(const DiagrammPunkte&)> PunkteZeichnen;
   std::function<const frmQGraph2D*()> Seite2D;
+  std::function<void(const std::vector<FitPunkt>&)> FittingSenden;
 
 protected:
   void closeEvent(QCloseEvent* ereignis) override;
@@ -69,6 +71,7 @@ private:
   void FelderZeigen(); // everything but the grid
   void ZeileGewaehlt(int zeile);
   void Zeichnen();
+  void ZumFitting();
 
   frmQXYEdit logik_;
   DatenTabellenModell* modell_ = nullptr;

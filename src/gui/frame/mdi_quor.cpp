@@ -114,10 +114,14 @@ void mdiQUOR::BefehleRegistrieren() {
   r.Handler("mnuData_BatchInput", [this](int) { logik_->mnuData_BatchInput_Click(); });
   r.Handler("mnuData_BatchEdit", [this](int) { editoren_->MessdatenEditorZeigen(); });
   r.Handler("mnuData_EditXY", [this](int) { editoren_->XYEditorZeigen(); });
+  r.Handler("mnuData_Fitting", [this](int) { editoren_->FittingZeigen(); });
+  r.Handler("mnuFitting", [this](int) { editoren_->FittingZeigen(); });
   editoren_->BatchDateiWaehlen = [this](const std::string& titel, const std::string& muster) {
     return BatchDateiWaehlen(state_, this, titel, muster);
   };
+  editoren_->TextZeigen = [this](const frmQTextEdit& t) { ZeigeTextFenster(t, this); };
   connect(editoren_, &DatenEditorSteuerung::datenGeaendert, this, &mdiQUOR::Aktualisieren);
+  connect(editoren_, &DatenEditorSteuerung::stoffGeaendert, this, &mdiQUOR::Aktualisieren);
 }
 
 void mdiQUOR::BaueMenues() {
@@ -288,8 +292,9 @@ void mdiQUOR::ModellFensterZeigen(bool neuAufbauen) {
 }
 
 // The windows of the former substance: the calculation's page with its companions, the diagram pages,
-// the editor of its measured data, the other child windows and the text windows close; the model
-// window waits hidden for its rebuild. The X-Y editor belongs to no substance and stays.
+// the editor of its measured data, the other child windows (the fitting dialog among them) and the
+// text windows close; the model window waits hidden for its rebuild. The X-Y editor belongs to no
+// substance and stays.
 void mdiQUOR::StoffFensterSchliessen() {
   rechnung_->SeiteSchliessen();
   graf2d_->SeiteSchliessen();

@@ -91,7 +91,7 @@ private:
   RechnungSteuerung* rechnung_ = nullptr;    // the windows of the state calculations
   Graph2DSteuerung* graf2d_ = nullptr;       // the 2D diagram page
   Graph3DSteuerung* graf3d_ = nullptr;       // the 3D diagram page
-  DatenEditorSteuerung* editoren_ = nullptr; // the X-Y editor and the measured-data editor
+  DatenEditorSteuerung* editoren_ = nullptr; // the data editors and the fitting dialog
 };
 
 } // namespace quor::ui
