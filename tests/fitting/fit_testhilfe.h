@@ -1,14 +1,18 @@
-// Shared set-up of the fitting engine's tests: points from a function, a state with a model chosen.
+// Shared set-up of the fitting tests: points from a function, a state with a model chosen, and the
+// dialog over a scripted interface with measured rows sent as the measured-data editor sends a column.
 #pragma once
 
 #include "core/project_state.h"
+#include "dienste/skript_oberflaeche.h"
 #include "fitting/fit_daten.h"
 #include "fitting/fit_lauf.h"
 #include "fitting/fit_modelle.h"
+#include "fitting/fitting_dialog.h"
 
 #include <cstdint>
 #include <functional>
 #include <random>
+#include <string>
 #include <vector>
 
 namespace quor::test {
@@ -57,5 +61,41 @@ inline double Quadratsumme(const FitZustand& z, const FitParameter& P) {
   }
   return S;
 }
+
+struct FitDialog {
+  ProjectState s;
+  ui::SkriptOberflaeche ui;
+  frmQFitting f{s, ui};
+
+  // Rows T = von .. bis (n of them) with the column `spalte` (1 p ... 5 cp) from y(T), sent to the
+  // dialog.
+  void SendeSpalte(int16_t spalte, const std::function<double(double)>& y, double von, double bis, int n) {
+    s.Mess.ExpDaten.assign(1, ExpDatenSatz{});
+    for (int i = 0; i < n; ++i) {
+      ExpDatenSatz z;
+      z.T = von + (bis - von) * i / (n - 1);
+      const auto w = static_cast<float>(y(z.T));
+      if (spalte == tprho::p) z.p = w;
+      if (spalte == tprho::RhoL) z.RhoL = w;
+      if (spalte == tprho::HLV) z.HLV = w;
+      if (spalte == tprho::Cp) z.Cp = w;
+      s.Mess.ExpDaten.push_back(z);
+    }
+    s.Mess.ExpAnzahl = static_cast<int16_t>(n);
+    f.DatenLaden(FitUebergabeVon(spalte));
+  }
+
+  // The model's value with parameters as the user sees them, evaluated by the model function alone.
+  static double Modell(int16_t modell, bool lg, const FitParameter& P, double x, double Tcr = 0,
+                       double pcr = 0) {
+    EOSGruppe eos;
+    double y = 0;
+    ModellWert(eos, {modell, LogFaktor(modell, lg), Tcr, pcr}, P, x, y);
+    return y;
+  }
+
+  std::string LetzteMeldung() const { return ui.Meldungen().empty() ? "" : ui.Meldungen().back().text; }
+  std::string LetzterTitel() const { return ui.Meldungen().empty() ? "" : ui.Meldungen().back().titel; }
+};
 
 } // namespace quor::test

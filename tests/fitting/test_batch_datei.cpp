@@ -1,22 +1,22 @@
 // The measured-data files: what the writer puts into a file and the reader takes back, the older
-// five-value form, the substance line, the questions for another substance, appending, and the
-// files the reader refuses.
+// five-value form, the substance line, the questions for another substance, appending, the files
+// the reader refuses and the save command.
 #include "dienste/skript_oberflaeche.h"
 #include "fitting/batch_datei.h"
 #include "fitting/messdaten_testhilfe.h"
 #include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace quor {
 namespace {
 
 using test::BaqText;
-using test::MitWasser;
 using test::Satz;
-using test::TempOrdner;
 
 const std::string WasserZeile = "Wasser;7732-18-5";
+const std::vector<std::string> EineZeile = {"300", "3.5", "0", "996", "0", "0"};
 
 std::vector<std::string> Zeilen(const std::string& text) {
   std::vector<std::string> z;
@@ -28,21 +28,21 @@ std::vector<std::string> Zeilen(const std::string& text) {
   return z;
 }
 
-void ErwarteGleich(const ExpDatenSatz& ist, const ExpDatenSatz& soll, int zeile) {
-  EXPECT_EQ(ist.T, soll.T) << "row " << zeile;
-  EXPECT_EQ(ist.p, soll.p) << "row " << zeile;
-  EXPECT_EQ(ist.RhoV, soll.RhoV) << "row " << zeile;
-  EXPECT_EQ(ist.RhoL, soll.RhoL) << "row " << zeile;
-  EXPECT_EQ(ist.HLV, soll.HLV) << "row " << zeile;
-  EXPECT_EQ(ist.Cp, soll.Cp) << "row " << zeile;
-  EXPECT_FALSE(ist.Inaktiv) << "row " << zeile;
+// Every field of a row, for comparing rows as a whole.
+auto Felder(const ExpDatenSatz& z) {
+  return std::make_tuple(z.T, z.p, z.RhoV, z.RhoL, z.HLV, z.Cp, z.Inaktiv);
 }
+
+// Water loaded, the files in a fresh folder, the questions answered by script.
+struct BatchDatei : testing::Test {
+  test::TempOrdner ordner;
+  ProjectState s = test::MitWasser();
+  ui::SkriptOberflaeche ui;
+};
 
 // Every column travels exactly: T and p with all digits of a double, the others as single values;
 // rho(V) and rho(L) keep their places although the file orders them the other way round.
-TEST(BatchDatei, SchreibenUndLesenGibtJedeSpalteInIhrerBreiteZurueck) {
-  TempOrdner ordner;
-  ProjectState s = MitWasser();
+TEST_F(BatchDatei, SchreibenUndLesenGibtJedeSpalteInIhrerBreiteZurueck) {
   const ExpDatenSatz a = Satz(373.12345678901234, 101.32500000000001, 958.35f, 0.5977f, 40657.1f, 75.98f);
   const ExpDatenSatz b = Satz(1.0 / 3.0, 2.0 / 3.0, 1e-37f, 3.4e38f, -1.5f, 0.1f);
   test::SetzeZeilen(s, {a, b});
@@ -50,13 +50,12 @@ TEST(BatchDatei, SchreibenUndLesenGibtJedeSpalteInIhrerBreiteZurueck) {
   const std::string pfad = ordner.Datei("wasser.BAQ");
   ASSERT_TRUE(SchreibeBatchDatei(s, pfad));
 
-  ProjectState neu = MitWasser();
-  ui::SkriptOberflaeche ui;
+  ProjectState neu = test::MitWasser();
   ASSERT_TRUE(LadeBatchDatei(neu, ui, pfad));
   EXPECT_TRUE(ui.protokoll.empty()); // the current substance: no question
   ASSERT_EQ(neu.Mess.ExpAnzahl, 2);
-  ErwarteGleich(neu.Mess.ExpDaten[1], a, 1);
-  ErwarteGleich(neu.Mess.ExpDaten[2], b, 2);
+  EXPECT_EQ(Felder(neu.Mess.ExpDaten[1]), Felder(a));
+  EXPECT_EQ(Felder(neu.Mess.ExpDaten[2]), Felder(b));
   EXPECT_EQ(neu.Mess.BatchKommentar, "Sättigung, aus Tabellen");
   EXPECT_EQ(neu.Mess.BatchStoff, "Wasser");
   EXPECT_EQ(neu.Mess.BatchCAS, "7732-18-5");
@@ -68,22 +67,19 @@ TEST(BatchDatei, SchreibenUndLesenGibtJedeSpalteInIhrerBreiteZurueck) {
 
 // The file itself: Windows-1252 with CR LF, the substance line in its fixed widths, the count, one
 // value a line in its shortest form with "." (the file's order rho(V), rho(L)); inactive rows stay out.
-TEST(BatchDatei, DieDateiHatFesteBreitenEinenWertJeZeileUndKeineInaktivenZeilen) {
-  ProjectState s = MitWasser();
+TEST_F(BatchDatei, DieDateiHatFesteBreitenEinenWertJeZeileUndKeineInaktivenZeilen) {
   ExpDatenSatz aus = Satz(280, 1);
   aus.Inaktiv = true;
   test::SetzeZeilen(s, {Satz(300, 3.5368, 996.51f, 0.02559f, 43908, 75.3f), aus});
   s.Mess.BatchKommentar = "Dampfdrücke";
-  const std::vector<std::string> z = Zeilen(BatchText(s, "01.02.2024"));
   const std::vector<std::string> soll = {
       "01.02.2024", "Dampfdrücke", "Wasser" + std::string(101, ' ') + ";7732-18-5   ",
       "1",          "300",         "3.5368",
       "0.02559",    "996.51",      "43908",
       "75.3",
   };
-  EXPECT_EQ(z, soll);
+  EXPECT_EQ(Zeilen(BatchText(s, "01.02.2024")), soll);
 
-  TempOrdner ordner;
   const std::string pfad = ordner.Datei("d.BAQ");
   ASSERT_TRUE(SchreibeBatchDatei(s, pfad));
   const std::string bytes = test::LeseDatei(pfad);
@@ -94,18 +90,15 @@ TEST(BatchDatei, DieDateiHatFesteBreitenEinenWertJeZeileUndKeineInaktivenZeilen)
 }
 
 // The older form has five values a row: cp stays 0, and the next save writes the sixth value.
-TEST(BatchDatei, DieAeltereFormOhneCpGewinntBeimSpeichernDenSechstenWert) {
-  TempOrdner ordner;
-  ProjectState s = MitWasser();
-  ui::SkriptOberflaeche ui;
+TEST_F(BatchDatei, DieAeltereFormOhneCpGewinntBeimSpeichernDenSechstenWert) {
   const std::string pfad =
       ordner.Schreibe("alt.BAQ", BaqText(WasserZeile, 2,
                                          {"300.0", "3.5368", "0.02559", "996.51", "43908", "350", "41.682",
                                           "0.26029", "973.7", "41716"}));
   ASSERT_TRUE(LadeBatchDatei(s, ui, pfad));
   ASSERT_EQ(s.Mess.ExpAnzahl, 2);
-  ErwarteGleich(s.Mess.ExpDaten[1], Satz(300, 3.5368, 996.51f, 0.02559f, 43908, 0), 1);
-  ErwarteGleich(s.Mess.ExpDaten[2], Satz(350, 41.682, 973.7f, 0.26029f, 41716, 0), 2);
+  EXPECT_EQ(Felder(s.Mess.ExpDaten[1]), Felder(Satz(300, 3.5368, 996.51f, 0.02559f, 43908, 0)));
+  EXPECT_EQ(Felder(s.Mess.ExpDaten[2]), Felder(Satz(350, 41.682, 973.7f, 0.26029f, 41716, 0)));
   const std::vector<std::string> z = Zeilen(BatchText(s, "heute"));
   ASSERT_EQ(z.size(), 4u + 2 * 6);
   EXPECT_EQ(z[9], "0");
@@ -113,16 +106,12 @@ TEST(BatchDatei, DieAeltereFormOhneCpGewinntBeimSpeichernDenSechstenWert) {
 }
 
 // Line 3 with a ";" gives name and CAS number trimmed; without one the whole line is the name.
-TEST(BatchDatei, DieStoffzeileMitUndOhneSemikolon) {
-  TempOrdner ordner;
-  const std::vector<std::string> zeile = {"300", "3.5", "0", "996", "0", "0"};
-  ProjectState s = MitWasser();
-  ui::SkriptOberflaeche ui;
+TEST_F(BatchDatei, DieStoffzeileMitUndOhneSemikolon) {
   ASSERT_TRUE(
-      LadeBatchDatei(s, ui, ordner.Schreibe("a.BAQ", BaqText("  Wasser   ;  7732-18-5  ", 1, zeile))));
+      LadeBatchDatei(s, ui, ordner.Schreibe("a.BAQ", BaqText("  Wasser   ;  7732-18-5  ", 1, EineZeile))));
   EXPECT_EQ(s.Mess.BatchStoff, "Wasser");
   EXPECT_EQ(s.Mess.BatchCAS, "7732-18-5");
-  ASSERT_TRUE(LadeBatchDatei(s, ui, ordner.Schreibe("b.BAQ", BaqText("  Wasser  ", 1, zeile))));
+  ASSERT_TRUE(LadeBatchDatei(s, ui, ordner.Schreibe("b.BAQ", BaqText("  Wasser  ", 1, EineZeile))));
   EXPECT_EQ(s.Mess.BatchStoff, "Wasser");
   EXPECT_EQ(s.Mess.BatchCAS, "");
   EXPECT_TRUE(ui.protokoll.empty());
@@ -130,11 +119,9 @@ TEST(BatchDatei, DieStoffzeileMitUndOhneSemikolon) {
 
 // A substance the database lacks: No leaves the data; Yes loads, or without a loaded substance
 // ends with the hint. Another substance of the database: No leaves the data, Yes loads.
-TEST(BatchDatei, DieFragenFuerEinenFremdenOderUnbekanntenStoff) {
-  TempOrdner ordner;
-  const std::vector<std::string> zeile = {"300", "3.5", "0", "996", "0", "0"};
-  const std::string unbekannt = ordner.Schreibe("u.BAQ", BaqText("Xenon;7440-63-3", 1, zeile));
-  const std::string methan = ordner.Schreibe("m.BAQ", BaqText("methan", 1, zeile));
+TEST_F(BatchDatei, DieFragenFuerEinenFremdenOderUnbekanntenStoff) {
+  const std::string unbekannt = ordner.Schreibe("u.BAQ", BaqText("Xenon;7440-63-3", 1, EineZeile));
+  const std::string methan = ordner.Schreibe("m.BAQ", BaqText("methan", 1, EineZeile));
   const std::string fremdFrage = "Sie versuchen einen Datensatz für einen\r\nfremden Stoff zu "
                                  "laden!\r\n\r\nT-p-rho-Daten trotzdem laden?";
   const std::string unbekanntFrage =
@@ -155,10 +142,10 @@ TEST(BatchDatei, DieFragenFuerEinenFremdenOderUnbekanntenStoff) {
       {methan, true, ui::Antwort::Ja, fremdFrage, true, ""},
   };
   for (const Fall& f : faelle) {
-    ProjectState s = MitWasser();
+    s = test::MitWasser();
     if (!f.stoffGeladen) s.Datenbank.StoffIndex = 0;
     test::SetzeZeilen(s, {Satz(280, 1)});
-    ui::SkriptOberflaeche ui;
+    ui = ui::SkriptOberflaeche();
     ui.antworten = {f.antwort};
     EXPECT_EQ(LadeBatchDatei(s, ui, f.pfad), f.geladen) << f.pfad;
     ASSERT_GE(ui.protokoll.size(), 1u);
@@ -176,14 +163,11 @@ TEST(BatchDatei, DieFragenFuerEinenFremdenOderUnbekanntenStoff) {
 
 // Appending keeps the rows held and puts the file's behind them; the file's comment replaces the
 // one held, and another substance is asked about as in a load.
-TEST(BatchDatei, AnfuegenBehaeltDieZeilenUndUeberschreibtDenKommentar) {
-  TempOrdner ordner;
-  ProjectState s = MitWasser();
+TEST_F(BatchDatei, AnfuegenBehaeltDieZeilenUndUeberschreibtDenKommentar) {
   ExpDatenSatz aus = Satz(290, 2);
   aus.Inaktiv = true;
   test::SetzeZeilen(s, {Satz(280, 1), aus});
   s.Mess.BatchKommentar = "alt";
-  ui::SkriptOberflaeche ui;
   const std::string pfad = ordner.Schreibe(
       "neu.BAQ", BaqText("Methan;74-82-8", 2,
                          {"150", "1000", "0", "0", "0", "0", "160", "1500", "0", "0", "0", "0"}, "neu"));
@@ -200,8 +184,7 @@ TEST(BatchDatei, AnfuegenBehaeltDieZeilenUndUeberschreibtDenKommentar) {
 
 // Files the reader refuses: the message names the cause and the file, and the data held before are
 // gone, in an append too. A file without rows has no row length. An empty path just returns.
-TEST(BatchDatei, EineUnlesbareDateiMeldetDenGrundUndLeertDieDaten) {
-  TempOrdner ordner;
+TEST_F(BatchDatei, EineUnlesbareDateiMeldetDenGrundUndLeertDieDaten) {
   struct Fall {
     std::string name, text, grund;
   };
@@ -217,9 +200,8 @@ TEST(BatchDatei, EineUnlesbareDateiMeldetDenGrundUndLeertDieDaten) {
   for (const Fall& f : faelle) {
     const std::string pfad = f.text.empty() ? ordner.Datei(f.name) : ordner.Schreibe(f.name, f.text);
     for (bool anfuegen : {false, true}) {
-      ProjectState s = MitWasser();
       test::SetzeZeilen(s, {Satz(280, 1), Satz(290, 2)});
-      ui::SkriptOberflaeche ui;
+      ui = ui::SkriptOberflaeche();
       EXPECT_FALSE(LadeBatchDatei(s, ui, pfad, anfuegen)) << f.name;
       ASSERT_EQ(ui.Meldungen().size(), 1u) << f.name;
       const ui::Aufzeichnung m = ui.Meldungen()[0];
@@ -231,9 +213,8 @@ TEST(BatchDatei, EineUnlesbareDateiMeldetDenGrundUndLeertDieDaten) {
     }
   }
 
-  ProjectState s = MitWasser();
+  ui = ui::SkriptOberflaeche();
   test::SetzeZeilen(s, {Satz(280, 1)});
-  ui::SkriptOberflaeche ui;
   EXPECT_FALSE(LadeBatchDatei(s, ui, ""));
   EXPECT_TRUE(ui.protokoll.empty());
   EXPECT_EQ(s.Mess.ExpAnzahl, 1);
@@ -241,13 +222,10 @@ TEST(BatchDatei, EineUnlesbareDateiMeldetDenGrundUndLeertDieDaten) {
 
 // The save command: its dialog, the question before an existing file (No writes nothing), the flag
 // cleared after writing; a file that cannot be written is told and the flag stays.
-TEST(BatchDatei, SpeichernFragtVorDemUeberschreibenUndMeldetEinenFehlschlag) {
-  TempOrdner ordner;
-  ProjectState s = MitWasser();
+TEST_F(BatchDatei, SpeichernFragtVorDemUeberschreibenUndMeldetEinenFehlschlag) {
   test::SetzeZeilen(s, {Satz(300, 3.5)});
   s.Mess.BatchGeaendert = true;
   const std::string pfad = ordner.Schreibe("da.BAQ", "alt");
-  ui::SkriptOberflaeche ui;
   ui.dateien = {pfad, pfad};
   ui.antworten = {ui::Antwort::Nein};
   EXPECT_FALSE(BatchSpeichernUnter(s, ui));

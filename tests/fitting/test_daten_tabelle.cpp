@@ -1,4 +1,5 @@
-// The grid model the data editors share: sorting, pasting, counting, deleting and clearing.
+// The grid model the data editors share: sorting, pasting, counting, deleting, clearing and the
+// text of a selection.
 #include "fitting/daten_tabelle.h"
 
 #include <gtest/gtest.h>
@@ -28,48 +29,33 @@ TEST(DatenTabelle, SortingIsStableAndTheInactiveMarkTravelsWithItsRow) {
   for (const DatenZeile& z : t.Zeilen())
     inaktiv.push_back(z.Inaktiv);
   EXPECT_EQ(inaktiv, (std::vector<bool>{false, true, false, true, false}));
-
-  DatenTabelle leer(2);
-  EXPECT_FALSE(leer.Sortieren(0)) << "an empty table only beeps";
+  EXPECT_FALSE(DatenTabelle(2).Sortieren(0)) << "an empty table only beeps";
 }
 
-TEST(DatenTabelle, PastedLinesWithATrailingBreakAddNoEmptyRowAndReadTheDecimalComma) {
+// A trailing line break (CR LF, or LF alone with a blank line) adds no empty row, while a row whose
+// values merely cancel stays; "," is the decimal mark; cells beyond the last column are dropped.
+// Lines laid in at the last row extend the table from the cursor cell.
+TEST(DatenTabelle, PastingAddsNoEmptyRowForATrailingBreakAndExtendsTheTableFromTheCursor) {
   DatenTabelle t(2);
-  ASSERT_TRUE(t.Einfuegen("1,5\t2\r\n3\t-4,25\r\n", 0, 0));
-  ASSERT_EQ(t.Anzahl(), 2);
-  EXPECT_EQ(Spalte(t, 0), (std::vector<double>{1.5, 3}));
-  EXPECT_EQ(Spalte(t, 1), (std::vector<double>{2, -4.25}));
-  EXPECT_FALSE(t.Zeile(1).Inaktiv);
+  ASSERT_TRUE(t.Einfuegen("2\t3,25\r\n-1,5\t1,5\r\n", 0, 0));
+  EXPECT_EQ(Spalte(t, 0), (std::vector<double>{2, -1.5}));
+  EXPECT_EQ(Spalte(t, 1), (std::vector<double>{3.25, 1.5}));
 
-  // Text from a toolkit that ends lines with LF alone, with a blank line at the end, and a cell
-  // beyond the last column.
   DatenTabelle u(2);
   ASSERT_TRUE(u.Einfuegen("7\t8\t9\n\n", 0, 0));
   ASSERT_EQ(u.Anzahl(), 1);
   EXPECT_EQ(u.Zeile(0).Werte, (std::vector<double>{7, 8}));
-
   EXPECT_FALSE(u.Einfuegen("", 0, 0));
   EXPECT_EQ(u.Anzahl(), 1);
-}
 
-TEST(DatenTabelle, PastingOntoTheLastRowExtendsTheTableFromTheCursorCell) {
-  DatenTabelle t(3);
-  t.Setzen({Z({1, 1, 1}), Z({2, 2, 2}, true)});
-  // Two lines laid in at the last row, second column: the first overwrites, the second is new.
-  ASSERT_TRUE(t.Einfuegen("20\t21\r30\t31\r", 1, 1));
-  ASSERT_EQ(t.Anzahl(), 3);
-  EXPECT_EQ(t.Zeile(1).Werte, (std::vector<double>{2, 20, 21}));
-  EXPECT_TRUE(t.Zeile(1).Inaktiv) << "pasting over a row keeps its mark";
-  EXPECT_EQ(t.Zeile(2).Werte, (std::vector<double>{0, 30, 31}));
-  EXPECT_FALSE(t.Zeile(2).Inaktiv);
-}
-
-TEST(DatenTabelle, ARowOfValuesThatCancelIsKeptAfterPasting) {
-  // x = -1, y = 1 sums to 0 but is a point; only a row with no value at all is the empty line.
-  DatenTabelle t(2);
-  t.Einfuegen("-1\t1\r", 0, 0);
-  ASSERT_EQ(t.Anzahl(), 1);
-  EXPECT_EQ(t.Zeile(0).Werte, (std::vector<double>{-1, 1}));
+  DatenTabelle v(3);
+  v.Setzen({Z({1, 1, 1}), Z({2, 2, 2}, true)});
+  ASSERT_TRUE(v.Einfuegen("20\t21\r30\t31\r", 1, 1));
+  ASSERT_EQ(v.Anzahl(), 3);
+  EXPECT_EQ(v.Zeile(1).Werte, (std::vector<double>{2, 20, 21}));
+  EXPECT_TRUE(v.Zeile(1).Inaktiv) << "pasting over a row keeps its mark";
+  EXPECT_EQ(v.Zeile(2).Werte, (std::vector<double>{0, 30, 31}));
+  EXPECT_FALSE(v.Zeile(2).Inaktiv);
 }
 
 TEST(DatenTabelle, CountsPerColumnTakeOnlyValuesFromTheMeasuredLimitOn) {
@@ -85,19 +71,12 @@ TEST(DatenTabelle, DeletingABlockAndClearingASelection) {
   t.CursorZeile = 4;
   t.ZeilenLoeschen(1, 2);
   EXPECT_EQ(Spalte(t, 0), (std::vector<double>{1, 4, 5}));
-  EXPECT_GE(t.CursorZeile, 0);
-  EXPECT_LT(t.CursorZeile, t.Anzahl());
   // A block reaching past the end is clipped; the last rows go, the cursor stays inside.
   t.ZeilenLoeschen(2, 9);
   EXPECT_EQ(Spalte(t, 0), (std::vector<double>{1, 4}));
   EXPECT_EQ(t.CursorZeile, 1);
 
-  TabellenAuswahl a;
-  a.Zeile1 = 1;
-  a.Zeile2 = 5; // beyond the table: clipped
-  a.Spalte1 = 1;
-  a.Spalte2 = 1;
-  t.ZellenLeeren(a);
+  t.ZellenLeeren(TabellenAuswahl{1, 5, 1, 1}); // rows beyond the table are clipped
   EXPECT_EQ(Spalte(t, 0), (std::vector<double>{1, 4})) << "clearing keeps the rows";
   EXPECT_EQ(Spalte(t, 1), (std::vector<double>{10, 0}));
 
@@ -106,25 +85,22 @@ TEST(DatenTabelle, DeletingABlockAndClearingASelection) {
   EXPECT_EQ(t.CursorZeile, -1);
 }
 
+// A cell's text is Basic's Str() with a leading blank for non-negative values; the selection joins
+// cells by TAB and ends each row with CR, and pastes back to the same values.
 TEST(DatenTabelle, SelectionTextIsTheGridsCellTextWithTabsAndCarriageReturns) {
-  DatenTabelle t(2);
-  t.Setzen({Z({273.15, -1.5}), Z({0, 12345678})});
-  TabellenAuswahl alles{0, 1, 0, 1};
-  EXPECT_EQ(t.AuswahlText(alles), " 273.15\t-1.5\r 0\t 1.234568E+07\r");
-  // The text pastes back to the same values (the large one at seven digits).
-  DatenTabelle u(2);
-  u.Einfuegen(t.AuswahlText(alles), 0, 0);
-  ASSERT_EQ(u.Anzahl(), 2);
-  EXPECT_EQ(Spalte(u, 0), (std::vector<double>{273.15, 0}));
-  EXPECT_EQ(Spalte(u, 1), (std::vector<double>{-1.5, 12345680}));
-  EXPECT_EQ(t.AuswahlText(TabellenAuswahl{}), "");
-}
-
-TEST(DatenTabelle, CellTextIsBasicsStrWithALeadingBlankForNonNegativeValues) {
-  EXPECT_EQ(DatenTabelle::ZellText(0), " 0");
   EXPECT_EQ(DatenTabelle::ZellText(0.1), " 0.1");
   EXPECT_EQ(DatenTabelle::ZellText(-2.5e-7), "-2.5E-07");
   EXPECT_EQ(DatenTabelle::ZellText(1e300), " 1E+300") << "beyond the float range the double's text";
+
+  DatenTabelle t(2);
+  t.Setzen({Z({273.15, -1.5}), Z({0, 12345678})});
+  const TabellenAuswahl alles{0, 1, 0, 1};
+  EXPECT_EQ(t.AuswahlText(alles), " 273.15\t-1.5\r 0\t 1.234568E+07\r");
+  EXPECT_EQ(t.AuswahlText(TabellenAuswahl{}), "");
+  DatenTabelle u(2);
+  u.Einfuegen(t.AuswahlText(alles), 0, 0);
+  EXPECT_EQ(Spalte(u, 0), (std::vector<double>{273.15, 0}));
+  EXPECT_EQ(Spalte(u, 1), (std::vector<double>{-1.5, 12345680})) << "the large one at seven digits";
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 // the order of the run's checks with their messages, the results frame, the start fields with the
 // fix marks, chkLg after a run, the evaluation both ways, the spline's smoothing field and the
 // points and curves it hands to the 2D page.
-#include "fitting_dialog_testhilfe.h"
+#include "fit_testhilfe.h"
 
 #include "core/zahl_lesen.h"
 #include "fitting/fit_lauf.h"
@@ -57,8 +57,7 @@ TEST(FittingDialog, TheCaptionNamesTheSourceAndCountsTheActivePoints) {
   EXPECT_EQ(t.f.Fit.FitModell, fm::August) << "the X-Y editor leaves the model as it is";
 }
 
-// Tcr and pcr are read from the fields behind the parameters before the points are counted; the
-// spline's hint names the editor the data did not come from.
+// Tcr and pcr are read from the fields behind the parameters before the points are counted.
 TEST(FittingDialog, TheRunChecksTheConstantsBeforeThePointsAndTellsEachRefusal) {
   FitDialog t;
   t.f.DatenLaden({{300, 1, FlagAktiv}, {350, 2, FlagAktiv}, {400, 3, FlagAktiv}});
@@ -80,13 +79,6 @@ TEST(FittingDialog, TheRunChecksTheConstantsBeforeThePointsAndTellsEachRefusal) 
   EXPECT_FALSE(t.f.chkFixVisible[3]) << "D is computed; its fix mark is that of E";
   EXPECT_FALSE(t.f.cmdStart());
   EXPECT_EQ(t.LetzteMeldung(), "Tcr wird für die Korrelation von Parameter D benötigt.");
-
-  t.f.DatenLaden({{1, 1, FlagAktiv}, {2, 2, FlagAktiv}, {3, 3, FlagInaktiv}});
-  t.f.optFit_Click(fm::AkimaSpline);
-  EXPECT_FALSE(t.f.cmdStart());
-  EXPECT_EQ(t.LetzteMeldung(), "für Spline mindestens 3 aktive Punkte!\r\n\r\n"
-                               "Gehen Sie zum Editor für experimentelle Daten (Icon 8).");
-  EXPECT_FALSE(t.f.fraFQSVisible || t.f.cmdCalcEnabled || t.f.cmdApplyEnabled);
 }
 
 TEST(FittingDialog, TheResultsFrameShowsParametersDeviationsAndEnablesTheButtons) {

@@ -2,7 +2,7 @@
 // reads the set gives the fitted function back; vapour pressures are converted to decimal
 // logarithms with their message; the heat capacity goes to the phase chosen; the range of validity
 // is the first and the last row; August and the polynomial write nothing.
-#include "fitting_dialog_testhilfe.h"
+#include "fit_testhilfe.h"
 
 #include "core/zahl_lesen.h"
 #include "engine/korrelationen.h"
@@ -21,19 +21,14 @@ using test::FitDialog;
 constexpr double Tcr = 647.1, pcr = 22064; // water-like
 constexpr double TcrPropan = 369.8;        // propane-like
 
+// The database correlations that read the sets.
 using Korrelation = double (*)(ProjectState&, double);
-
-double AntoineLo(ProjectState& s, double T) {
+template <int Gleichung> double Dampfdruck(ProjectState& s, double T) {
   int16_t f = 0;
-  return pLV(s, T, AntoineNiederdruck, false, f);
+  return pLV(s, T, Gleichung, false, f);
 }
-double FrostKalkwarf(ProjectState& s, double T) {
-  int16_t f = 0;
-  return pLV(s, T, FrostKalkwarfDB, false, f);
-}
-double Wagner(ProjectState& s, double T) {
-  int16_t f = 0;
-  return pLV(s, T, WagnerDB, false, f);
+template <int Gleichung> double CpIdealgas(ProjectState& s, double T) {
+  return CpIdG(s, T, Gleichung);
 }
 double Dichte(ProjectState& s, double T) {
   int16_t f = 0;
@@ -43,12 +38,9 @@ double Verdampfung(ProjectState& s, double T) {
   int16_t f = 0;
   return HLVFu(s, T, f);
 }
-double CpSinh(ProjectState& s, double T) {
-  return CpIdG(s, T, CpSinhCosh);
-}
-double CpPoly(ProjectState& s, double T) {
-  return CpIdG(s, T, CpPolynom);
-}
+constexpr Korrelation AntoineLo = Dampfdruck<AntoineNiederdruck>, FrostKalkwarf = Dampfdruck<FrostKalkwarfDB>,
+                      Wagner = Dampfdruck<WagnerDB>, CpSinh = CpIdealgas<CpSinhCosh>,
+                      CpPoly = CpIdealgas<CpPolynom>;
 
 // A model, the column it is fitted to, a generating parameter set with its range, the phase of a
 // heat capacity, a parameter fixed at its generating value (-1: none) and the correlation that
@@ -138,8 +130,7 @@ TEST(FittingUebernahme, AntoineInLgFormTakesAAndBOverAsTheyAreAndInLnFormDivided
   lg.f.cmdApply();
   const FitParameter P = lg.f.Fit.FitPar;
   EXPECT_EQ(lg.s.Stoff.AntoineNd, (std::array<float, 3>{float(P[0]), float(P[1]), float(P[2])}));
-  // The rows run from 290 to 440 K.
-  EXPECT_EQ(lg.s.Stoff.AntoineNdGrenzen.TLo, 290);
+  EXPECT_EQ(lg.s.Stoff.AntoineNdGrenzen.TLo, 290); // the rows' range
   EXPECT_EQ(lg.s.Stoff.AntoineNdGrenzen.THi, 440);
   ASSERT_EQ(lg.ui.Meldungen().size(), 2u);
   EXPECT_EQ(lg.ui.Meldungen()[0].text,

