@@ -125,11 +125,13 @@ TEST(TpRhoEditor, NullzeileFaelltWegEditierenErsetztDieZeileDesCursors) {
   EXPECT_EQ(ed.e.lblZeile, "Zeile 3");
 
   ed.e.opt_T_unit_Click(einheit::Celsius);
+  ed.s.Mess.BatchGeaendert = false;
   ed.e.Grid_Enter(0, tprho::T, "310,5");
   ed.e.Grid_Enter(0, tprho::RhoL, "0.1");
   EXPECT_EQ(ed.s.Mess.ExpDaten[1].T, 310.5);
   EXPECT_EQ(ed.s.Mess.ExpDaten[1].RhoL, 0.1f);
   EXPECT_EQ(ed.e.y[tprho::T], "37.35");
+  EXPECT_TRUE(ed.s.Mess.BatchGeaendert);
 }
 
 // The buttons follow the number of rows; a y column is offered once T has three measured values
@@ -224,6 +226,7 @@ TEST(TpRhoEditor, LoeschenFragtUndZellenLeerenBehaeltDieZeilen) {
   t.e.Grid.Auswahl = {0, 1, 0, 1};
   t.e.cmdEraseSelected();
   EXPECT_EQ(t.s.Mess.ExpAnzahl, 1);
+  EXPECT_EQ(t.s.Mess.ExpDaten[1].T, 0);
   EXPECT_EQ(t.s.Mess.ExpDaten[1].p, 0);
   EXPECT_EQ(t.s.Mess.ExpDaten[1].RhoL, 2);
   t.e.Grid.CursorZeile = 0;
