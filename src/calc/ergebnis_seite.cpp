@@ -84,6 +84,14 @@ std::string ArtText(const ProjectState& s, int16_t a) {
   }
 }
 
+const char* const IsoKeineVorgabe = "noch keine p- oder T-Vorgabe!";
+
+bool IsoRechnerMoeglich(const RechenKontext& k, ui::Oberflaeche& ui) {
+  if (k.Letzter.T > 1e-6f && k.Letzter.pLetzt > 1e-6f) return true;
+  ui.Meldung(IsoKeineVorgabe, "Ausführung nicht möglich", ui::Symbol::Ausruf);
+  return false;
+}
+
 bool PunktGeloescht(const MessdatenGruppe& m, int punkt) {
   return punkt >= 1 && punkt < static_cast<int>(m.ExpDaten.size()) && m.ExpDaten[punkt].T == 0;
 }
@@ -152,6 +160,7 @@ void frmQCalcOut::SetzeFreigaben() {
   cmdOpenNewEnabled = Protokoll.ProtokollOffen;
   cmdCEOSDiagnoseEnabled = Seite.cmdCEOSDiagnoseVerfuegbar;
   cmdInfoSuperCritEnabled = Seite.cmdInfoSuperCritVerfuegbar;
+  cmdIsoCalcEnabled = !(Art == art::Virial || datenbank || Art == art::Polytrope);
 }
 
 // A step skips one deleted point only; beyond the ends the page beeps and stays at the end.
@@ -208,13 +217,18 @@ void frmQCalcOut::cmdProtokoll_Click() {
   SetzeFreigaben();
 }
 
+bool frmQCalcOut::cmdIsoCalc_Click() {
+  return cmdIsoCalcEnabled && IsoRechnerMoeglich(Kontext, ui_);
+}
+
 void frmQCalcOut::cmdOpenNew_Click() {
   const int n = Protokoll.ProtokollAnzahl;
   const std::string pfad = ProtokollSchliessen(s_, ui_, Protokoll, Datum);
   lblProtText2 = Protokoll.ProtokollDatei;
-  lblProtHinweis = pfad.empty() ? std::string()
-                                : (n == 1 ? "1 Ergebnis" : std::to_string(n) + " Ergebnisse") +
-                                      " geschrieben nach\r\n" + pfad + "\r\nund in die Zwischenablage kopiert";
+  lblProtHinweis = pfad.empty()
+                       ? std::string()
+                       : (n == 1 ? "1 Ergebnis" : std::to_string(n) + " Ergebnisse") +
+                             " geschrieben nach\r\n" + pfad + "\r\nund in die Zwischenablage kopiert";
   SetzeFreigaben();
 }
 
@@ -261,7 +275,8 @@ void frmQCalcOut::Form_Unload() {
   // The page goes: where the record went is said once more.
   if (Protokoll.ProtokollOffen) {
     cmdOpenNew_Click();
-    if (!lblProtHinweis.empty()) ui_.Meldung("Protokoll: " + lblProtHinweis, "Protokoll", ui::Symbol::Information);
+    if (!lblProtHinweis.empty())
+      ui_.Meldung("Protokoll: " + lblProtHinweis, "Protokoll", ui::Symbol::Information);
   }
   Entladen = true;
   Sichtbar = false;

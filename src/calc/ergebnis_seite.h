@@ -26,6 +26,11 @@ std::string ArtText(const ProjectState& s, int16_t art);
 // A batch point is deleted when its first value, T, is zero.
 bool PunktGeloescht(const MessdatenGruppe& m, int punkt);
 
+// The iso-line calculator starts from the T and p of the state last calculated on the page; without
+// them it refuses ("noch keine p- oder T-Vorgabe!" under "Ausführung nicht möglich") and answers false.
+bool IsoRechnerMoeglich(const RechenKontext& k, ui::Oberflaeche& ui);
+extern const char* const IsoKeineVorgabe;
+
 // Where the report goes (option group optResultPrint).
 enum AusgabeZiel : int16_t { AusgabeKeine = 0, AusgabeDrucker = 1, AusgabeDatei = 2 };
 
@@ -48,6 +53,8 @@ public:
   void chkFuncPrint_Click(bool an);
   void cmdProtokoll_Click();
   void cmdOpenNew_Click();
+  // True when the iso-line calculator may open over the page; otherwise the refusal was shown.
+  bool cmdIsoCalc_Click();
   // Writes the report where chosen and closes the page with its companions.
   void cmdCalc_OK_Click();
   // Closing: an open record is closed first.
@@ -84,6 +91,7 @@ public:
   bool fraBatchVorgabeVisible = true, fraValueVisible = true;
   bool chkUHSEnabled = false, ResPlusEnabled = true, chkFuncPrintEnabled = false;
   bool cmdOpenNewEnabled = false, cmdCEOSDiagnoseEnabled = false, cmdInfoSuperCritEnabled = true;
+  bool cmdIsoCalcEnabled = false; // the kind calculates a state (not the database and virial kinds)
 
   int Piepser = 0;       // beeps at the ends of the batch
   bool Sichtbar = false; // shown after a successful opening

@@ -29,6 +29,26 @@ bool DurchCalcBatch(ProjectState& s, ui::Oberflaeche& ui, LoeserKontext& lk, dou
   return std::isfinite(wert);
 }
 
+// A caloric quantity in engine units; g as h - T s, the way the result cells form it.
+double Kalorisch(const KalorischeWerte& w, double T, FixGroesse g) {
+  switch (g) {
+  case FixGroesse::h:
+    return w.h;
+  case FixGroesse::s:
+    return w.s;
+  case FixGroesse::g:
+    return w.h - T * w.s;
+  case FixGroesse::u:
+    return w.u;
+  case FixGroesse::a:
+    return w.a;
+  case FixGroesse::eh:
+    return w.eh;
+  default:
+    return w.eu;
+  }
+}
+
 bool Direkt(ProjectState& s, double T, double p, FixGroesse g, int16_t phase, double& wert) {
   bool istL = false, istV = false;
   double rhoV = 0, rhoL = 0, vV = 0, vL = 0, imbalance = 0, A = 0, B = 0;
@@ -41,12 +61,12 @@ bool Direkt(ProjectState& s, double T, double p, FixGroesse g, int16_t phase, do
   const double v = phase == PhaseL ? vL : vV;
   if (g == FixGroesse::v) {
     wert = v;
-  } else {
-    KalorischeWerte w;
-    int16_t fehler = 0;
-    ThermoFunktionen(s, T, p, v, phase, w, fehler);
-    wert = g == FixGroesse::h ? w.h : w.s;
+    return std::isfinite(wert);
   }
+  KalorischeWerte w;
+  int16_t fehler = 0;
+  ThermoFunktionen(s, T, p, v, phase, w, fehler);
+  wert = Kalorisch(w, T, g);
   return std::isfinite(wert);
 }
 

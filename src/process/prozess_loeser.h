@@ -1,5 +1,6 @@
-// The solver of the homogeneous process lines: at a given T (or p) it finds the p (or T) at which
-// the fixed quantity of the line (v, h or s of one phase) takes its value. The free variable lives
+// The solver of the homogeneous process lines and of the iso-line calculator: at a given T (or p) it
+// finds the p (or T) at which the fixed quantity (v, h, s, g, u, a or an exergy of one phase) takes
+// its value. The free variable lives
 // in row 0 of the measured data, the input row of the functions calculation, and is overwritten.
 #pragma once
 
@@ -12,8 +13,9 @@
 
 namespace quor::prozess {
 
-// The fixed quantity, as its offset in a phase's block of the result cells (v, h, s).
-enum class FixGroesse : int16_t { v = 0, h = 1, s = 2 };
+// The fixed quantity, as its offset in a phase's block of the result cells: v, h, s, g, u, a, and the
+// exergies of h and u.
+enum class FixGroesse : int16_t { v = 0, h = 1, s = 2, g = 3, u = 4, a = 5, eh = 6, eu = 7 };
 
 // The phase whose column is read is given by its row in the tables, PhaseL (0) or PhaseV (1).
 
