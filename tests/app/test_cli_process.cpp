@@ -43,6 +43,32 @@ TEST(CliProcess, HeterogeneousIsochoreStartsOnTheDewLine) {
   EXPECT_LT(punkte.back()["eta"].Z(), 1);
 }
 
+// The polytrope of the EOS goes through the calculator: every (T, p, v) a root of Peng/Robinson, p v^n
+// constant along the line, and the report's numbers those of the head.
+TEST(CliProcess, PolytropeOfTheEOSThroughTheCalculator) {
+  const Json info = StarteJson({"--substance", "Propan", "--eos", "6", "info"});
+  const Json r = StarteJson({"--substance", "Propan", "--eos", "6", "process", "polytrope", "--n", "1.1",
+                             "--kappa", "1.13", "--from", "400;1000", "--to-p", "2500"});
+  EXPECT_EQ(r["kind"].T(), "polytrope");
+  EXPECT_FALSE(r["report"]["failed"].B());
+  EXPECT_TRUE(r["messages"].liste.empty());
+  EXPECT_NE(r["report"]["text"].T().find("aktuellen Zustandsgleichung"), std::string::npos);
+  const auto& kopf = r["report"]["head"].liste;
+  ASSERT_EQ(kopf.size(), 22u);
+  const auto& punkte = r["points"].liste;
+  ASSERT_EQ(punkte.size(), 51u);
+  EXPECT_EQ(punkte.front()["T"].Z(), 400);
+  EXPECT_EQ(punkte.back()["p"].Z(), 2500);
+  const double pvn = 1000 * std::pow(punkte.front()["v"].Z(), 1.1);
+  for (const Json& z : punkte) {
+    EXPECT_TRUE(IstWurzel(info, z["T"].Z(), z["p"].Z(), z["v"].Z(), 1e-6)) << z["p"].Z();
+    EXPECT_NEAR(z["p"].Z() * std::pow(z["v"].Z(), 1.1) / pvn, 1, 1e-9);
+  }
+  // The head: T2 and the change of enthalpy as the points have them (single precision).
+  EXPECT_NEAR(kopf[3].Z() / punkte.back()["T"].Z(), 1, 1e-6);
+  EXPECT_NEAR(kopf[11].Z() / (punkte.back()["h"].Z() - punkte.front()["h"].Z()), 1, 1e-5);
+}
+
 TEST(CliProcess, Refusals) {
   // n = 1 is the isotherm: refused with a T range (the dialog's message, exit 1), drawn with a p range.
   const Json nein = StarteJson({"--substance", "Propan", "process", "polytrope", "--ideal", "--n", "1",

@@ -95,7 +95,9 @@ std::string Bericht(const ProjectState& s, const PexAuftrag& a, const Polytropen
       "Änderung der Enthalpie        h2 - h1 = " + Fest(k[KopfDeltaH] * e) + E,
       "Änderung der Entropie         s2 - s1 = " + Fest(k[KopfDeltaS] * e) + S,
       "",
-      "Endzustand:  h2 = " + Fest(k[KopfH2] * e) + E + "   s2 = " + Fest(k[KopfS2] * e) + S +
+      "kalorische Größen am Anfang:  h1 = " + Fest(k[KopfH1] * e) + E + "   s1 = " + Fest(k[KopfS1] * e) + S +
+          "   u1 = " + Fest(k[KopfU1] * e) + E,
+      "kalorische Größen am Ende:    h2 = " + Fest(k[KopfH2] * e) + E + "   s2 = " + Fest(k[KopfS2] * e) + S +
           "   u2 = " + Fest(k[KopfU2] * e) + E,
   };
   std::string t;
