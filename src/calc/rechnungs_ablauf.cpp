@@ -1,5 +1,7 @@
 #include "calc/rechnungs_ablauf.h"
 
+#include "core/rechen_art.h"
+
 #include <utility>
 
 namespace quor {
@@ -34,6 +36,14 @@ void RechnungsAblauf::VorgabenUebergeben() {
   const BehaelterDaten& b = s_.Rechnung.Behaelter;
   k.TpIstGleichgewicht = s_.Rechnung.TpGleichgewicht;
   k.Behaelter = BehaelterVorgabe{b.m, b.V, b.BehaelterT};
+  k.ProzessText = prozessText_;
+}
+
+bool RechnungsAblauf::ProzessErgebnisZeigen(const std::string& bericht) {
+  s_.RechenArt = art::Polytrope;
+  s_.Rechnung.ParinputModus = static_cast<int16_t>(art::Polytrope + ParinputDirekt);
+  prozessText_ = bericht;
+  return ErgebnisZeigen();
 }
 
 bool RechnungsAblauf::ErgebnisZeigen() {

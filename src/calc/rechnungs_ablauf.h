@@ -36,6 +36,9 @@ public:
   // The value dialog's input calculated on the page: the page's exit text ("EXIT" when it closed),
   // empty when no page is open.
   std::string Berechnen();
+  // The result page of the polytropic process: the start point of row 0 of the measured data and
+  // the calculator's report; false when no page opens.
+  bool ProzessErgebnisZeigen(const std::string& bericht);
   // The windows that the start routine and the concept dialog open.
   RechnungsFenster Fenster();
 
@@ -51,6 +54,7 @@ private:
   ui::Oberflaeche& ui_;
   Ansicht a_;
   frmQCalcOut* seite_ = nullptr;
+  std::string prozessText_; // the polytropic calculator's report for the page of kind 12
 };
 
 } // namespace quor

@@ -175,6 +175,16 @@ const std::vector<MenuePosten> Einfuegen = {
     {"", -1, "-", "mnuInsert", -1},
     {"mnuDelMarkTP", -1, "Markierungen T, p, v entfernen", "mnuInsert", -1},
     {"mnuDelMarkLabels", -1, "Beschriftungen der Markierungen entfernen", "mnuInsert", -1},
+    {"", -1, "-", "mnuInsert", -1},
+    {"mnuProzess", -1, "Prozesslinie", "mnuInsert", -1},
+    {"mnuProzessLinie", 0, "Einfügen Gerade (x1, y1) - (x2, y2)", "mnuProzess", -1},
+    {"mnuProzessLinie", 1, "Einfügen Isotherme", "mnuProzess", -1},
+    {"mnuProzessLinie", 2, "Einfügen Isobare", "mnuProzess", -1},
+    {"mnuProzessLinie", 3, "Einfügen Isochore", "mnuProzess", -1},
+    {"mnuProzessLinie", 4, "Einfügen Isentrope (= Adiabate-reversibel)", "mnuProzess", -1},
+    {"mnuProzessLinie", 5, "Einfügen Isenthalpe", "mnuProzess", -1},
+    {"mnuProzessLinie", 6, "Einfügen Polytrope (Zusatz-Information => \"Berechnung\")", "mnuProzess", -1},
+    {"mnuProzessLinie", 8, "Einfügen einer Linie konstanten Verdampfungsgrads eta(V)", "mnuProzess", -1},
 };
 // clang-format on
 

@@ -29,6 +29,8 @@ void DiagrammHandlerSetzen(BefehlsRegister& r, const std::function<void(const st
 // The insert menu of an open 2D diagram ("mnuInsert" under the 2D menu) with its submenus of the T,
 // p and v marks; the page's own menu shows the same entries.
 const std::vector<MenuePosten>& EinfuegePosten();
+// The insert menu's entries of the process lines; the index is the kind of line.
+inline const char* const ProzessEintrag = "mnuProzessLinie";
 
 // Attaches `start` to every entry of the insert menu; the menu and its entries are enabled only
 // while `seiteOffen` says a diagram page is open.

@@ -194,6 +194,9 @@ public:
   // What the status line shows at a data coordinate; `pixelToleranz` in data units of X and Y for
   // the nearest curve point.
   MausInfo Maus(double x, double y, double toleranzX, double toleranzY) const;
+  // T (K) and p (kPa) of the curve point nearest to (x, y) within the tolerances, when the curve's
+  // parameter and the axes give both.
+  std::optional<std::pair<double, double>> TpBei(double x, double y, double toleranzX, double toleranzY) const;
   // A curve's points as tab-separated text with a head line of the axis texts.
   std::string KurveAlsText(int slot) const;
   // The slot of the curve nearest to (x, y) within the tolerances; -1 when none.

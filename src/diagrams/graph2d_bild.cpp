@@ -57,6 +57,28 @@ void AusAchse(Punktzustand& z, Groesse g, double wert, const ProjectState& s) {
   }
 }
 
+// What a curve's point tells of its state: the curve's parameter and the two axes.
+Punktzustand ZustandAmPunkt(const Graph2DKurve& k, const Kurvenpunkt& q, Groesse x, Groesse y,
+                            const ProjectState& s) {
+  Punktzustand z;
+  switch (k.Auftrag.Klasse) {
+  case klasse::Isotherme:
+    z.T = q.Z;
+    break;
+  case klasse::Isobare:
+    z.p = q.Z;
+    break;
+  case klasse::Isochore:
+    z.v = q.Z;
+    break;
+  default:
+    break;
+  }
+  AusAchse(z, x, q.X, s);
+  AusAchse(z, y, q.Y, s);
+  return z;
+}
+
 } // namespace
 
 Diagramm2D frmQGraph2D::Bild() const {
@@ -150,22 +172,7 @@ MausInfo frmQGraph2D::Maus(double x, double y, double toleranzX, double toleranz
   if (!NaechsterPunkt(x, y, toleranzX, toleranzY, slot, index)) return info;
   const Graph2DKurve& k = kurven_[static_cast<std::size_t>(slot)];
   const Kurvenpunkt& q = k.Punkte[index];
-  Punktzustand z;
-  switch (k.Auftrag.Klasse) {
-  case klasse::Isotherme:
-    z.T = q.Z;
-    break;
-  case klasse::Isobare:
-    z.p = q.Z;
-    break;
-  case klasse::Isochore:
-    z.v = q.Z;
-    break;
-  default:
-    break;
-  }
-  AusAchse(z, AchseX(), q.X, s_);
-  AusAchse(z, AchseY(), q.Y, s_);
+  const Punktzustand z = ZustandAmPunkt(k, q, AchseX(), AchseY(), s_);
   std::string text;
   auto teil = [&](const char* name, const std::optional<double>& w, const char* einheit) {
     if (!w || !std::isfinite(*w)) return;
@@ -188,6 +195,18 @@ std::string frmQGraph2D::KurveAlsText(int slot) const {
   for (std::size_t j = 1; j < k.Punkte.size(); ++j)
     text += SingleText(k.Punkte[j].X) + "\t" + SingleText(k.Punkte[j].Y) + "\r\n";
   return text;
+}
+
+std::optional<std::pair<double, double>> frmQGraph2D::TpBei(double x, double y, double toleranzX,
+                                                      double toleranzY) const {
+  int slot = -1;
+  std::size_t index = 0;
+  if (!std::isfinite(x) || !std::isfinite(y) || !NaechsterPunkt(x, y, toleranzX, toleranzY, slot, index))
+    return std::nullopt;
+  const Graph2DKurve& k = kurven_[static_cast<std::size_t>(slot)];
+  const Punktzustand z = ZustandAmPunkt(k, k.Punkte[index], AchseX(), AchseY(), s_);
+  if (!z.T || !z.p || !(*z.T > 0) || !(*z.p > 0) || !std::isfinite(*z.T) || !std::isfinite(*z.p)) return std::nullopt;
+  return std::make_pair(*z.T, *z.p);
 }
 
 } // namespace quor

@@ -56,7 +56,15 @@ RechnungsAblauf::Ansicht RechnungSteuerung::Ansicht() {
   a.ErgebnisNachVorne = [this] {
     if (seitenFenster_) flaeche_->setActiveSubWindow(seitenFenster_);
   };
+  a.ProzessZeigen = [this] {
+    if (ProzessZeigen) ProzessZeigen();
+  };
   return a;
+}
+
+bool RechnungSteuerung::PolytropeZeigen(const std::string& bericht) {
+  SeiteSchliessen();
+  return ablauf_.ProzessErgebnisZeigen(bericht);
 }
 
 void RechnungSteuerung::Menue(const std::string& name, int index) {

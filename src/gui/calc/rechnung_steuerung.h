@@ -15,6 +15,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <string>
 
 class QMdiArea;
@@ -36,6 +37,10 @@ public:
   void ReferenzZeigen();
   // Closes the result page with its companions (an open record is written then).
   void SeiteSchliessen();
+  // The result page of the polytropic process with the calculator's report.
+  bool PolytropeZeigen(const std::string& bericht);
+  // The process dialog of the polytropic process (set by the frame).
+  std::function<void()> ProzessZeigen;
 
   RechnungsFenster Fenster() { return ablauf_.Fenster(); }
 

@@ -86,7 +86,7 @@ void Graph2DFenster::BaueKopfzeile() {
   parameter_->setObjectName("txtParameter");
   parameter_->setMaximumWidth(120);
   parameter_->setToolTip("Kurvenparameter; Eingabetaste zeichnet die Kurve");
-  auto* zeichnen = NeuerKnopf("cmdDraw", "Zeichnen", "Kurve mit dem eingegebenen Parameter zeichnen", this);
+  auto* zeichnen = NeuerKnopf("cmdDraw", "Zeichne Kurve", "Kurve mit dem eingegebenen Parameter zeichnen", this);
   auto* farbe = NeuerKnopf("cmdFarbVorwahl", "Farbe", "Farbe der nächsten Kurve", this);
   auto* bereich = NeuerKnopf("cmdKoordinaten", "Koordinatenbereich", "Achsenbereiche eingeben", this);
   auto* zurueck =
@@ -183,6 +183,10 @@ void Graph2DFenster::ParameterFokus() {
 }
 
 void Graph2DFenster::Einfuegen(const std::string& name, int index) {
+  if (name == ProzessEintrag) {
+    emit prozessLinieGewuenscht(index);
+    return;
+  }
   if (MarkierungAusfuehren(marken_, name, index)) {
     Zeige();
   }
@@ -292,7 +296,21 @@ void Graph2DFenster::MausLos(QMouseEvent* e) {
   if (!ziehen_ || e->button() != Qt::LeftButton) return;
   ziehen_ = false;
   band_->hide();
+  // A click without a drag picks the state under the mouse; a dragged rectangle zooms.
+  if ((e->pos() - bandStart_).manhattanLength() < 4) {
+    PunktWaehlen(e->pos());
+    return;
+  }
   ZoomRechteck(bandStart_, e->pos());
+}
+
+bool Graph2DFenster::PunktWaehlen(const QPoint& pixel) {
+  const Punkt2D d = flaeche_->DatenBei(pixel);
+  const auto t = Toleranz(pixel);
+  const auto tp = logik_.TpBei(d.X, d.Y, t[0], t[1]);
+  if (!tp) return false;
+  emit punktGewaehlt(tp->first, tp->second);
+  return true;
 }
 
 } // namespace quor::ui

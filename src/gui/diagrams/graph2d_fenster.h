@@ -70,6 +70,9 @@ public:
   bool BildKopieren(bool vektor);
   bool BildSchreiben(bool vektor);
 
+  // A click on a curve: the state under the mouse is sent with punktGewaehlt when T and p are known.
+  bool PunktWaehlen(const QPoint& pixel);
+
   // The range dialog; its four numbers become the new setting.
   void Koordinatenbereich();
   void KurveGestalten(int slot);
@@ -80,6 +83,12 @@ public:
   QLabel* Statuszeile() const { return status_; }
   // "cmdDraw", "cmdFarbVorwahl", "cmdKoordinaten", "cmdZoomReset", "cmdChangeXY", "cmdLegende"
   QPushButton* Knopf(const QString& name) const;
+
+signals:
+  // An entry of the insert menu's process lines (its kind); the process dialog takes it.
+  void prozessLinieGewuenscht(int art);
+  // T (K) and p (kPa) of a point picked on a curve.
+  void punktGewaehlt(double T, double p);
 
 private:
   void BaueKopfzeile();

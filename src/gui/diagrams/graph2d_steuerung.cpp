@@ -24,10 +24,11 @@ void Graph2DSteuerung::Menue(const std::string& name, int index) {
   Graph2DFenster* seite = SeiteHolen();
   // A curve of the same axes joins the diagram on show; other axes start a new one.
   seite->Anfordern(a, !offen || e.DiagrammLoeschen);
-  // The process page would take the parameter of the h-s and eH diagrams; the page's own field
-  // serves until then.
+  // The process page takes the parameter of the h-s and eH diagrams.
   if (e.Folge == Graf2DFolge::DiagrammSofort)
     seite->Zeichnen();
+  else if (e.Folge == Graf2DFolge::ProzessSeite)
+    emit prozessParameterGewuenscht();
   else
     seite->ParameterFokus();
 }
@@ -50,6 +51,8 @@ Graph2DFenster* Graph2DSteuerung::SeiteHolen() {
   }
   seite_ = new Graph2DFenster(s_, ui_);
   fenster_ = DiagrammSeiteEinsetzen(flaeche_, seite_, "frmQGraph2DFenster", rahmen_->windowIcon());
+  connect(seite_, &Graph2DFenster::prozessLinieGewuenscht, this, &Graph2DSteuerung::prozessLinieGewuenscht);
+  connect(seite_, &Graph2DFenster::punktGewaehlt, this, &Graph2DSteuerung::punktGewaehlt);
   zerstoert_ = connect(seite_, &QObject::destroyed, this, [this] {
     seite_ = nullptr;
     fenster_ = nullptr;

@@ -40,6 +40,11 @@ public:
 signals:
   // The page was opened or closed: the entries that need it change.
   void seiteGeaendert();
+  // The process dialog is asked for: a process line of the insert menu (its kind), the curve
+  // parameter of an h-s or exergy diagram, a point picked on a curve of the page.
+  void prozessLinieGewuenscht(int art);
+  void prozessParameterGewuenscht();
+  void punktGewaehlt(double T, double p);
 
 private:
   Graph2DFenster* SeiteHolen();

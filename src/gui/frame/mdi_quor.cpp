@@ -8,6 +8,7 @@
 #include "gui/basis/schirm.h"
 #include "gui/basis/symbole.h"
 #include "gui/calc/rechnung_steuerung.h"
+#include "gui/process/prozess_steuerung.h"
 #include "gui/diagrams/graph2d_steuerung.h"
 #include "gui/diagrams/graph3d_steuerung.h"
 #include "gui/fitting/daten_editor_steuerung.h"
@@ -48,6 +49,9 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
   graf2d_ = new Graph2DSteuerung(state, ui, mdi_, this);
   graf3d_ = new Graph3DSteuerung(state, ui, mdi_, this);
   editoren_ = new DatenEditorSteuerung(state, ui, mdi_, graf2d_, this);
+  prozess_ = new ProzessSteuerung(state, ui, *graf2d_, this);
+  rechnung_->ProzessZeigen = [this] { prozess_->Oeffnen(prozess::Polytrope, true); };
+  prozess_->PolytropeErgebnis = [this](const std::string& bericht) { return rechnung_->PolytropeZeigen(bericht); };
   logik_ = std::make_unique<RahmenLogik>(state, ui, Dienste());
   BefehleRegistrieren();
   setObjectName("mdiQUOR");
@@ -296,6 +300,7 @@ void mdiQUOR::ModellFensterZeigen(bool neuAufbauen) {
 // text windows close; the model window waits hidden for its rebuild. The X-Y editor belongs to no
 // substance and stays.
 void mdiQUOR::StoffFensterSchliessen() {
+  prozess_->Schliessen();
   rechnung_->SeiteSchliessen();
   graf2d_->SeiteSchliessen();
   graf3d_->SeiteSchliessen();

@@ -24,6 +24,7 @@ class DatenEditorSteuerung;
 class Graph2DSteuerung;
 class Graph3DSteuerung;
 class ModellFenster;
+class ProzessSteuerung;
 class RechnungSteuerung;
 class StoffWahlFenster;
 
@@ -54,6 +55,7 @@ public:
   Graph2DSteuerung* Graf2D() const { return graf2d_; }
   Graph3DSteuerung* Graf3D() const { return graf3d_; }
   DatenEditorSteuerung* Editoren() const { return editoren_; }
+  ProzessSteuerung* Prozess() const { return prozess_; }
 
   // Enabled entries and buttons, status bar panels and Ampel from the project state.
   void Aktualisieren();
@@ -92,6 +94,7 @@ private:
   Graph2DSteuerung* graf2d_ = nullptr;       // the 2D diagram page
   Graph3DSteuerung* graf3d_ = nullptr;       // the 3D diagram page
   DatenEditorSteuerung* editoren_ = nullptr; // the data editors and the fitting dialog
+  ProzessSteuerung* prozess_ = nullptr;      // the process dialog
 };
 
 } // namespace quor::ui
