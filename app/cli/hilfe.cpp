@@ -118,12 +118,14 @@ Options of process:
   --hetero                the isochore, isentrope or isenthalpe inside the two-phase region,
                           by the lever rule
   --n N, --kappa K        polytropic exponent and cp/cV of the polytrope
-  --ideal                 the polytrope of the ideal gas (the only one computed here)
+  --ideal                 the polytrope of the ideal gas; without it the polytrope of the
+                          current EOS, computed by the calculator Merlon_1
   --eta X                 the degree of vaporization of the eta line, 0 to 1
   Kinds (KIND): isotherm (--to-p), isobar (--to-T), isochore, isentrope, isenthalpe,
   polytrope, eta. JSON: {"kind", "points": [{"T", "p", "v", "h", "s", "eta"}, ...],
   "report": {"curve_code", "heterogeneous", "fixed_quantity", "fixed_value", "failed"},
-  "messages"}; a refused line has no points and its message.
+  "messages"}; a refused line has no points and its message. The polytrope of the EOS
+  adds the calculator's report text and its 22 head values to "report" ("text", "head").
 
 Global options:
   --db PATH               database (.Q07, or .Q06); default QUOR.Q07 of the program directory
