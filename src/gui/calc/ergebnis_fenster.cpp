@@ -207,8 +207,7 @@ QWidget* ErgebnisFenster::BaueOptionen() {
   werkzeuge->addWidget(NeuerKnopf("cmdInfoSuperCrit", "Info-Bild SuperCrit"), 0, 1);
   werkzeuge->addWidget(NeuerKnopf("cmdIsoCalc", "Iso-Rechner"), 1, 0);
   werkzeuge->addWidget(NeuerKnopf("cmdShowManuInput", "XY-Daten- Editor"), 1, 1);
-  // The iso-line calculator and the X-Y editor are not part of this build.
-  Knopf("cmdIsoCalc")->setEnabled(false);
+  // The X-Y editor is not part of this build.
   Knopf("cmdShowManuInput")->setEnabled(false);
 
   auto* layout = new QVBoxLayout(spalte);
@@ -250,6 +249,9 @@ void ErgebnisFenster::Verbinden() {
   klick("cmdCalc_OK", [this] { logik_.cmdCalc_OK_Click(); });
   connect(Knopf("cmdCEOSDiagnose"), &QPushButton::clicked, this, &ErgebnisFenster::diagnoseGewuenscht);
   connect(Knopf("cmdInfoSuperCrit"), &QPushButton::clicked, this, &ErgebnisFenster::superKritUmschalten);
+  connect(Knopf("cmdIsoCalc"), &QPushButton::clicked, this, [this] {
+    if (logik_.cmdIsoCalc_Click() && IsoRechnerOeffnen) IsoRechnerOeffnen();
+  });
   connect(uhs_, &QCheckBox::clicked, this, [this](bool an) {
     logik_.chkUHS_Click(an);
     Nachher();
@@ -334,6 +336,7 @@ void ErgebnisFenster::Zeige() {
   Knopf("cmdOpenNew")->setEnabled(logik_.cmdOpenNewEnabled);
   Knopf("cmdCEOSDiagnose")->setEnabled(logik_.cmdCEOSDiagnoseEnabled);
   Knopf("cmdInfoSuperCrit")->setEnabled(logik_.cmdInfoSuperCritEnabled);
+  Knopf("cmdIsoCalc")->setEnabled(logik_.cmdIsoCalcEnabled && static_cast<bool>(IsoRechnerOeffnen));
   Knopf("cmdCalc_OK")->setText(Q(logik_.cmdCalc_OKCaption));
   Knopf("cmdCalc_OK")->setToolTip(Q(logik_.cmdCalc_OKToolTip));
 

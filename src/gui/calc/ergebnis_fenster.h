@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 class QAbstractButton;
 class QCheckBox;
@@ -36,6 +37,8 @@ public:
   void Zeige();
 
   frmQCalcOut& Logik() { return logik_; }
+  // Opens the iso-line calculator over the page; set by the frame. Without it the button stays off.
+  std::function<void()> IsoRechnerOeffnen;
   QLabel* Par(int i) const { return i == 1 ? par1_ : par2_; }
   QLabel* Co1() const { return co1_; }
   QLabel* Txtco2() const { return txtco2_; }
