@@ -189,7 +189,7 @@ void RegistriereRechenBefehle(BefehlsRegister& r) {
 void RechenHandlerSetzen(BefehlsRegister& r, const std::function<void(const std::string&, int)>& start) {
   for (const MenuePosten& p : Posten) {
     const int16_t a = ArtVonMenue(p.name, p.index);
-    if (a == art::Keine || a == art::Polytrope) continue;
+    if (a == art::Keine) continue;
     r.Handler(p.name, p.index, [start, name = std::string(p.name)](int index) { start(name, index); });
   }
 }

@@ -134,6 +134,11 @@ void ProzessFenster::BaueStart() {
   lblT1_ = new QLabel(anfang_);
   lblP1_ = new QLabel(anfang_);
   txtT1_ = NeuesFeld("txtT1");
+  // The hint of the first default goes once the user types another temperature.
+  connect(txtT1_, &QLineEdit::textEdited, this, [this] {
+    logik_.Hinweis.clear();
+    hinweis_->hide();
+  });
   txtP1_ = NeuesFeld("txtP1");
   a->addWidget(lblT1_, 0, 0);
   a->addWidget(txtT1_, 0, 1);
@@ -282,7 +287,7 @@ void ProzessFenster::Zeige() {
   form_->setVisible(l.HeteroMoeglich);
   bereich_->setVisible(mitStart);
   bereich_->setEnabled(l.BereichWaehlbar);
-  phase_->setVisible(mitStart && art != KonstantesEta);
+  phase_->setVisible(mitStart && art != KonstantesEta && art != Polytrope);
   const QSignalBlocker b1(optForm_[1]), b2(optBereich_[0]), b3(optPhase_[1]), b4(optModell_[0]);
   optForm_[l.ProzessHetero ? 1 : 0]->setChecked(true);
   optBereich_[l.ProzessBereich == BereichT ? 0 : 1]->setChecked(true);
