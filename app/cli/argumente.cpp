@@ -45,8 +45,8 @@ const Option Optionen[] = {
     {"--virial-b2", true, ""},
     {"--json", false, ""},
     {"--help", false, ""},
-    {"--T", true, "calc curve"},
-    {"--p", true, "calc curve"},
+    {"--T", true, "calc curve iso"},
+    {"--p", true, "calc curve iso"},
     {"--rho", true, "calc"},
     {"--v", true, "calc curve"},
     {"--m", true, "calc"},
@@ -72,8 +72,8 @@ const Option Optionen[] = {
     {"--column", true, "fit"},
     {"--log", false, "fit"},
     {"--lg", false, "fit"},
-    {"--start", true, "fit"},
-    {"--fix", true, "fit"},
+    {"--start", true, "fit iso"},
+    {"--fix", true, "fit iso"},
     {"--tcr", true, "fit"},
     {"--pcr", true, "fit"},
     {"--smoothing", true, "fit"},
@@ -82,12 +82,13 @@ const Option Optionen[] = {
     {"--from", true, "process"},
     {"--to-T", true, "process"},
     {"--to-p", true, "process"},
-    {"--phase", true, "process"},
+    {"--phase", true, "process iso"},
     {"--hetero", false, "process"},
     {"--n", true, "process"},
     {"--kappa", true, "process"},
     {"--ideal", false, "process"},
     {"--eta", true, "process"},
+    {"--value", true, "iso"},
 };
 
 const Option* FindeOption(const std::string& name) {
@@ -193,6 +194,7 @@ void FitOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& werte
   a.LogFit = hat("--log");
   a.Lg = hat("--lg");
   a.Uebernehmen = hat("--apply");
+  if (a.Befehl != "fit") return;
   if (hat("--start")) a.Start = ZahlenListe("--start", wert("--start"));
   if (a.Start.size() > 7) throw Eingabefehler("--start: at most seven values");
   if (hat("--fix"))
@@ -244,6 +246,30 @@ void ProzessOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& w
   if (hat("--kappa")) a.Kappa = Zahl("--kappa", wert("--kappa"));
   if (hat("--eta")) a.Eta = Zahl("--eta", wert("--eta"));
   a.Ideal = hat("--ideal");
+}
+
+// The iso-line calculator's options: exactly one given quantity, the function held and its value.
+void IsoOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& werte) {
+  if (a.Befehl != "iso") return;
+  auto hat = [&](const char* name) { return werte.count(name) != 0; };
+  auto wert = [&](const char* name) { return werte.at(name); };
+  if (hat("--T") == hat("--p")) throw Eingabefehler("iso needs either --T or --p");
+  if (!hat("--fix")) throw Eingabefehler("iso needs --fix v|h|s|g|u|eh|eu|a");
+  const std::string fix = Klein(wert("--fix"));
+  bool bekannt = false;
+  for (const char* f : {"v", "h", "s", "g", "u", "eh", "eu", "a"})
+    bekannt = bekannt || fix == f;
+  if (!bekannt) throw Eingabefehler("--fix \"" + wert("--fix") + "\": expected v, h, s, g, u, eh, eu or a");
+  a.IsoFix = fix;
+  if (!hat("--value")) throw Eingabefehler("iso needs --value X");
+  Zahl("--value", wert("--value"));
+  a.IsoWert = wert("--value");
+  if (hat("--start")) a.IsoStart = PositiveZahl("--start", wert("--start"));
+  if (hat("--phase")) {
+    const std::string ph = Klein(wert("--phase"));
+    if (ph != "v" && ph != "l") throw Eingabefehler("--phase \"" + wert("--phase") + "\": expected V or L");
+    a.ProzessPhase = ph == "v" ? 1 : 0;
+  }
 }
 
 bool ArtErlaubt(const std::string& befehl, int a) {
@@ -348,10 +374,11 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
 
   if (positionen.empty())
     throw Eingabefehler(
-        "no command given (list, info, calc, batch, curve, surface, fit, process; see quor-cli --help)");
+        "no command given (list, info, calc, batch, curve, surface, fit, process, iso; see quor-cli --help)");
   a.Befehl = positionen[0];
   if (a.Befehl != "list" && a.Befehl != "info" && a.Befehl != "calc" && a.Befehl != "batch" &&
-      a.Befehl != "curve" && a.Befehl != "surface" && a.Befehl != "fit" && a.Befehl != "process")
+      a.Befehl != "curve" && a.Befehl != "surface" && a.Befehl != "fit" && a.Befehl != "process" &&
+      a.Befehl != "iso")
     throw Eingabefehler("unknown command '" + a.Befehl + "' (see quor-cli --help)");
   const bool mitArt = a.Befehl == "calc" || a.Befehl == "batch";
   if (mitArt) {
@@ -437,6 +464,7 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   a.Konnode = hat("--tie-line");
   FitOptionenLesen(a, werte);
   ProzessOptionenLesen(a, werte);
+  IsoOptionenLesen(a, werte);
   return a;
 }
 

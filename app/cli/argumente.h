@@ -29,7 +29,7 @@ struct Aufruf {
   bool Json = false;
   bool Hilfe = false;
 
-  std::string Befehl; // list, info, calc, batch, curve, surface, fit, process
+  std::string Befehl; // list, info, calc, batch, curve, surface, fit, process, iso
   int Art = 0;        // kind of calc and batch
 
   // Options of calc and batch.
@@ -72,6 +72,11 @@ struct Aufruf {
   int16_t ProzessPhase = 1;                 // --phase: 1 V, 0 L
   bool Hetero = false, Ideal = false;       // --hetero, --ideal
   std::optional<double> N, Kappa, Eta;      // --n, --kappa, --eta
+
+  // Options of iso (with --T or --p of calc and --phase of process).
+  std::string IsoFix;                 // v, h, s, g, u, eh, eu, a
+  std::optional<std::string> IsoWert; // --value as typed, a checked number
+  std::optional<double> IsoStart;     // --start: the free variable's first trial (kPa or K)
 
   std::set<std::string> Gegeben;           // every option named on the line
   std::map<std::string, std::string> Text; // the value of each option as typed

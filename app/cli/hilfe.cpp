@@ -33,6 +33,9 @@ Commands:
                           the states along a process line: "T p v h s eta" per point
                           (K, kPa, m^3/kmol, kJ/kmol, kJ/(kmol K); eta the degree of
                           vaporization)
+  iso (--T X | --p X) --fix F --value X [--phase V|L] [--start X]
+                          the iso-line calculator: the p (kPa) or T (K) at which the function
+                          F of the phase takes the value X at the given T or p
 
 Kinds (KIND):
   1  T, rho(V) => p          2  T, rho(L) => p          3  T, p => rho
@@ -126,6 +129,18 @@ Options of process:
   "report": {"curve_code", "heterogeneous", "fixed_quantity", "fixed_value", "failed"},
   "messages"}; a refused line has no points and its message. The polytrope of the EOS
   adds the calculator's report text and its 22 head values to "report" ("text", "head").
+
+Options of iso:
+  --T X | --p X           the given temperature in K or pressure in kPa
+  --fix F                 the function held: v, h, s, g, u, eh, eu (the exergies of h and u), a
+  --value X               its value in the unit of --energy-mode and --volume-mode (by default
+                          kJ/kmol, kJ/(kmol K), m^3/kmol)
+  --phase V|L             the phase whose function is held (default V)
+  --start X               the first trial of the pressure (kPa, default 101.325) or of the
+                          temperature (K, default 298.15); a liquid needs one where it exists
+  Prints "p = X kPa" or "T = X K"; without a solution "keine Lösung" and exit code 1.
+  JSON: {"given", "fixed", "value", "phase", "solved", "result", "unit", "T", "p",
+  "messages"}; T and p only when solved.
 
 Global options:
   --db PATH               database (.Q07, or .Q06); default QUOR.Q07 of the program directory
