@@ -4,6 +4,7 @@
 // on its result page; and the pictures of the first two.
 #include "dienste/kind_prozess.h"
 #include "gui/diagrams/graph2d_steuerung.h"
+#include "gui/fitting/daten_editor_steuerung.h"
 #include "gui/process/prozess_fenster.h"
 #include "gui/process/prozess_steuerung.h"
 #include "programm_hilfe.h"
@@ -193,6 +194,24 @@ TEST(ProzessFenster, ThePolytropicProcessOfTheCalculationMenuEndsOnTheResultPage
   EXPECT_EQ(a.s.RechenArt, 12);
   const std::string text = seite->Logik().Kontext.ProzessText;
   EXPECT_NE(text.find("Polytrop"), std::string::npos);
+}
+
+TEST(ProzessFenster, TheResultPagesIsoCalculatorOpensWithItsStateAndClosesWithTheSubstance) {
+  test::RechnungsRahmen a;
+  ASSERT_TRUE(a.Menue("mnuCalc", 2));
+  a.Eingeben({"150", "2000"});
+  ErgebnisFenster* seite = a.Seite();
+  ASSERT_TRUE(seite && seite->Knopf("cmdIsoCalc")->isEnabled());
+  seite->Knopf("cmdIsoCalc")->click();
+  IsoRechnerFenster* iso = a.fenster->Prozess()->IsoRechner();
+  ASSERT_TRUE(iso && iso->isVisible());
+  EXPECT_EQ(iso->TpVorgabe()->text().toDouble(), 150);
+  // Its X-Y editor button reaches the frame's editor.
+  iso->Knopf("cmdShowManuInput")->click();
+  EXPECT_TRUE(a.fenster->Editoren()->XYEditor());
+  a.fenster->StoffFensterSchliessen();
+  QApplication::processEvents();
+  EXPECT_FALSE(a.fenster->Prozess()->IsoRechner());
 }
 
 } // namespace

@@ -104,6 +104,7 @@ void RechnungSteuerung::BegleiterSchliessen() {
 frmQCalcOut* RechnungSteuerung::SeiteAnlegen() {
   if (seitenFenster_) seitenFenster_->close();
   seite_ = new ErgebnisFenster(s_, ui_, s_.Rechnung.StapelModus);
+  if (IsoRechnerZeigen) seite_->IsoRechnerOeffnen = [this] { IsoRechnerZeigen(seite_->Logik().Kontext); };
   return &seite_->Logik();
 }
 

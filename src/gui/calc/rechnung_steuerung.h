@@ -39,8 +39,10 @@ public:
   void SeiteSchliessen();
   // The result page of the polytropic process with the calculator's report.
   bool PolytropeZeigen(const std::string& bericht);
-  // The process dialog of the polytropic process (set by the frame).
+  // The process dialog of the polytropic process, and the iso-line calculator of a result page with
+  // the page's context (set by the frame).
   std::function<void()> ProzessZeigen;
+  std::function<void(const RechenKontext&)> IsoRechnerZeigen;
 
   RechnungsFenster Fenster() { return ablauf_.Fenster(); }
 

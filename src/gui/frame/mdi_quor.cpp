@@ -52,6 +52,8 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
   prozess_ = new ProzessSteuerung(state, ui, *graf2d_, this);
   rechnung_->ProzessZeigen = [this] { prozess_->Oeffnen(prozess::Polytrope, true); };
   prozess_->PolytropeErgebnis = [this](const std::string& bericht) { return rechnung_->PolytropeZeigen(bericht); };
+  rechnung_->IsoRechnerZeigen = [this](const RechenKontext& k) { prozess_->IsoRechnerOeffnen(k); };
+  prozess_->KurvenInputOeffnen = [this] { editoren_->XYEditorZeigen(); };
   logik_ = std::make_unique<RahmenLogik>(state, ui, Dienste());
   BefehleRegistrieren();
   setObjectName("mdiQUOR");

@@ -46,6 +46,22 @@ void ProzessSteuerung::Oeffnen(int16_t art, bool ausRechnung) {
 void ProzessSteuerung::Schliessen() {
   if (fenster_) fenster_->close();
   fenster_ = nullptr;
+  if (iso_) iso_->close();
+  iso_ = nullptr;
+}
+
+void ProzessSteuerung::IsoRechnerOeffnen(const RechenKontext& seite) {
+  if (iso_) iso_->close();
+  iso_ = new IsoRechnerFenster(s_, ui_, seite, rahmen_);
+  iso_->setAttribute(Qt::WA_DeleteOnClose);
+  iso_->KurvenInputOeffnen = KurvenInputOeffnen;
+  if (!iso_->Laden()) {
+    iso_->close();
+    iso_ = nullptr;
+    return;
+  }
+  iso_->show();
+  iso_->raise();
 }
 
 void ProzessSteuerung::PunktGewaehlt(double T, double p) {

@@ -5,6 +5,7 @@
 // the result page.
 #pragma once
 
+#include "gui/process/iso_rechner_fenster.h"
 #include "gui/process/prozess_fenster.h"
 #include "process/prozess_dialog.h"
 
@@ -30,8 +31,13 @@ public:
   // Opens the dialog for a kind of line; `ausRechnung` for the polytropic process of the
   // calculation menu, whose report goes to the result page.
   void Oeffnen(int16_t art, bool ausRechnung = false);
-  // Closes the dialog (another substance, database or project).
+  // Closes the dialogs (another substance, database or project).
   void Schliessen();
+  // The iso-line calculator of a result page, with the page's context (its last state).
+  void IsoRechnerOeffnen(const RechenKontext& seite);
+  IsoRechnerFenster* IsoRechner() const { return iso_; }
+  // Opens the X-Y editor for the calculator's curve points (set by the frame).
+  std::function<void()> KurvenInputOeffnen;
 
   ProzessFenster* Fenster() const { return fenster_; }
   prozess::frmInputProzessLinien& Logik() { return *logik_; }
@@ -49,6 +55,7 @@ private:
   QWidget* rahmen_;
   std::unique_ptr<prozess::frmInputProzessLinien> logik_;
   QPointer<ProzessFenster> fenster_;
+  QPointer<IsoRechnerFenster> iso_;
 };
 
 } // namespace quor::ui
