@@ -67,6 +67,9 @@ public:
   // The pair of the last successful calculation (at first the page's state), K and kPa.
   double GutT = 0, GutP = 0;
 
+  // Evaluations of the functions so far (each one a dispatcher call).
+  int Auswertungen() const { return lk_.aufrufe; }
+
 private:
   void FelderFuellen();
   bool Auswerten(double T, double p);
