@@ -7,6 +7,7 @@
 #pragma once
 
 #include "core/project_state.h"
+#include "substance/joback.h"
 #include "substance/text_fenster.h"
 
 #include <array>
@@ -60,9 +61,6 @@ char BankTaste(char c);
 
 // The drawing buttons of the pages.
 enum class BankZeichnen { pLV, RhoL, RhoS, HLV, CpIdGas, CpL, CpS };
-
-// The Joback dialog's modes the group buttons open.
-enum JobackModus { JobackKritisch = 1, JobackBildung = 2, JobackCp = 3 };
 
 class frmQBankEdit {
 public:
