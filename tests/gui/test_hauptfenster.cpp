@@ -12,18 +12,29 @@ TEST(Hauptfenster, EveryBuiltRowHasItsHandlerAndEveryButtonAnEntry) {
   test::Programm a;
   mdiQUOR& fenster = *a.fenster;
   const BefehlsRegister& r = fenster.Logik().Befehle;
-  int gebaut = 0, offen = 0;
+  int gebaut = 0;
+  std::vector<std::string> offen; // entries of dialogs not built yet: shown, greyed
   for (const BefehlsZeile& z : r.Zeilen()) {
     if (z.Trenner() || z.eltern == ToolbarName) continue;
     const bool menue = r.IstMenue(z.name, z.index);
     EXPECT_EQ(z.gebaut, static_cast<bool>(z.handler)) << z.Schluessel();
     if (!menue && !z.versteckt) {
       EXPECT_NE(fenster.Befehl(QString::fromStdString(z.name), z.index), nullptr) << z.Schluessel();
-      (z.gebaut ? gebaut : offen)++;
+      if (z.gebaut)
+        ++gebaut;
+      else
+        offen.push_back(z.Schluessel());
     }
   }
   EXPECT_GT(gebaut, 140);
-  EXPECT_GE(offen, 5); // the entries of the dialogs not built yet
+  // A greyed entry is still in the menu, and never enabled.
+  for (const std::string& name : offen) {
+    const BefehlsZeile* z = nullptr;
+    for (const BefehlsZeile& k : r.Zeilen())
+      if (k.Schluessel() == name) z = &k;
+    ASSERT_TRUE(z);
+    EXPECT_FALSE(fenster.Befehl(QString::fromStdString(z->name), z->index)->isEnabled()) << name;
+  }
   const auto knoepfe = r.Kinder(ToolbarName);
   EXPECT_EQ(knoepfe.size(), 11u);
   for (const BefehlsZeile* k : knoepfe) {
