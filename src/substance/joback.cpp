@@ -116,6 +116,10 @@ double frmJOBACK::TbAbfragen(double TbInkremente) {
 
 void frmJOBACK::cmdCalcCrit() {
   MolmasseZeigen();
+  // An acentric factor of the former critical data no longer belongs to the fields.
+  omega = 0;
+  OmegaGerechnet = false;
+  txtOmega.clear();
   if (Anzahl[JobackGruppeNH] > 0) {
     ui_.Meldung(NHMeldung, "Ausführung nicht möglich", ui::Symbol::Ausruf);
     KritLeeren(KeinWert);

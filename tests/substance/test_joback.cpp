@@ -211,10 +211,13 @@ TEST_F(JobackTest, CriticalDataIntoTheSubstance) {
   EXPECT_FALSE(st.CpPolyOK); // only what the mode estimates
 
   // After the =NH refusal the fields hold no value: the substance keeps its data.
+  const double omegaVorher = st.omega;
   f.txtInkr_Change(NH, "1");
   f.cmdCalcCrit();
+  EXPECT_EQ(f.txtOmega, ""); // the former omega went with the former data
   f.cmdApply();
   EXPECT_EQ(st.TKrit, 508.1);
+  EXPECT_EQ(st.omega, omegaVorher);
 }
 
 // The polynomial of the database with C4 = 1E-37: a zero that is a value, and below 1 it selects
