@@ -4,10 +4,34 @@
 #include "cli/befehle.h"
 #include "cli/fehler.h"
 #include "cli/steuerung.h"
+#include "process/kessel.h"
 
+#include <optional>
 #include <ostream>
 
 namespace quor::cli {
+
+namespace {
+
+// The vessel picture's texts: its caption, the pressure field at the gauge and the fill level.
+void KesselText(std::ostream& aus, const prozess::frmKessel& k) {
+  aus << "\n" << k.Caption << "\n" << prozess::frmKessel::GaugeText << ": " << k.txtDruck << "\n";
+  if (!k.lblFuellstand.empty()) aus << k.lblFuellstand << "\n";
+}
+
+void KesselJson(JsonSchreiber& j, const prozess::frmKessel& k, const BehaelterDaten& b) {
+  j.BeginObjekt();
+  j.Feld("caption", k.Caption);
+  j.Feld("pressure", k.txtDruck);
+  j.Feld("fillLevel", k.lblFuellstand);
+  j.Feld("BehaelterP", b.BehaelterP);
+  j.Feld("BehaelterFuellstand", b.BehaelterFuellstand);
+  j.Feld("BehaelterHoehe", b.BehaelterHoehe);
+  j.Feld("BehaelterStatus", b.BehaelterStatus);
+  j.EndeObjekt();
+}
+
+} // namespace
 
 int BefehlCalc(Sitzung& z, std::ostream& aus, std::ostream& fehler) {
   const Aufruf& a = z.aufruf;
@@ -23,6 +47,12 @@ int BefehlCalc(Sitzung& z, std::ostream& aus, std::ostream& fehler) {
   const RechenKontext& k = seite->Kontext;
   const bool ok = !exit && !k.ErrorFlag && !SeiteZeigtFehler(seite->Seite);
   const BezugspunktInfo& bezug = steuerung.Bezug();
+  // Kinds 9 and 10 end on the vessel picture.
+  std::optional<prozess::frmKessel> kessel;
+  if (!exit && steuerung.Behaelter()) {
+    kessel.emplace(s, *steuerung.Behaelter());
+    kessel->Form_Load();
+  }
 
   const auto meldungen = Meldungen(z.ui, z.Gedruckt, z.ui.protokoll.size());
   z.Gedruckt = z.ui.protokoll.size();
@@ -56,6 +86,10 @@ int BefehlCalc(Sitzung& z, std::ostream& aus, std::ostream& fehler) {
     ErgebnisVektorJson(j, k.Ergebnis);
     j.Schluessel("StapelErgebnis");
     StapelErgebnisJson(j, k.StapelErgebnisse.at(0));
+    if (kessel) {
+      j.Schluessel("vessel");
+      KesselJson(j, *kessel, s.Rechnung.Behaelter);
+    }
     j.Schluessel("messages");
     MeldungenJson(j, meldungen);
     j.EndeObjekt();
@@ -64,6 +98,7 @@ int BefehlCalc(Sitzung& z, std::ostream& aus, std::ostream& fehler) {
     MeldungenSchreiben(fehler, meldungen);
     if (bezug.benutzt) aus << BezugspunktText(s, bezug) << "\n";
     if (!exit) aus << SeitenText(seite->Caption, seite->Seite);
+    if (kessel) KesselText(aus, *kessel);
   }
   if (!ok) fehler << "quor-cli: the calculation failed" << (exit ? " (the page closed at once)" : "") << "\n";
   return ok ? ExitOK : ExitRechnung;

@@ -41,6 +41,7 @@ RechnungsAblauf::Ansicht Steuerung::Ansicht() {
   a.CalcInZeigen = [this] { CalcInZeigen(); };
   a.SeiteAnlegen = [this] {
     seite_ = std::make_unique<frmQCalcOut>(z_.s, z_.ui, z_.s.Rechnung.StapelModus);
+    seite_->Kontext.BehaelterAnzeige = [this](const BehaelterZustand& b) { behaelter_ = b; };
     return seite_.get();
   };
   a.SeiteGeladen = [this](bool offen) { geschlossen_ = !offen; };

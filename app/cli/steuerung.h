@@ -10,6 +10,7 @@
 
 #include <iosfwd>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace quor::cli {
@@ -34,6 +35,8 @@ public:
   // The page closed itself at once ("EXIT").
   bool Geschlossen() const { return geschlossen_; }
   const BezugspunktInfo& Bezug() const { return bezug_; }
+  // The state the vessel calculation handed to its picture; none before one was calculated.
+  const std::optional<BehaelterZustand>& Behaelter() const { return behaelter_; }
 
   // Ticks the further blocks of the page that the command line asks for (each tick recalculates, as
   // on the page); a block that the page doesn't offer for this kind is noted on `fehler` and skipped.
@@ -48,6 +51,7 @@ private:
   std::unique_ptr<frmQCalcOut> seite_;
   bool geschlossen_ = false;
   BezugspunktInfo bezug_;
+  std::optional<BehaelterZustand> behaelter_;
   RechnungsAblauf ablauf_; // last: its hooks use the members above
 };
 

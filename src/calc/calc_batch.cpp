@@ -232,6 +232,9 @@ void CalcBatch(ProjectState& s, ui::Oberflaeche& ui, ErgebnisSeite& seite, Reche
       return;
     }
     Abschluss(l, eta);
+    // Kinds 9 and 10 end on the vessel display, after an error too; the branches that show it
+    // with the state have done so already.
+    if (art::IstBehaelter(art) && !l.behaelterGezeigt) BehaelterAnzeigen(l);
     p = l.p;
   } catch (const std::exception& e) {
     KeinePhase(seite);

@@ -190,9 +190,12 @@ std::string PhasenMarke(const Lauf& l) {
 
 void BehaelterAnzeigen(Lauf& l) {
   if (!l.k.BehaelterAnzeige) return;
+  l.behaelterGezeigt = true;
   BehaelterZustand z;
   z.T = l.T;
-  z.p = l.p;
+  z.Fehler = l.k.ErrorFlag;
+  z.Status = l.behaelterStatus;
+  z.p = z.Fehler ? 0 : l.p;
   z.v = l.v;
   z.vL = l.k.HatL ? l.vL : 0;
   z.vV = l.k.HatV ? l.vV : 0;

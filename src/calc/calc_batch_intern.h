@@ -38,6 +38,9 @@ struct Lauf {
   StapelErgebnis satz;       // the record of this point
   bool nichtEndlich = false; // a number that is not finite was about to be shown
   bool exit = false;         // the page must close at once
+  // The vessel display has its state; what it shows in place of p ("ERROR1").
+  bool behaelterGezeigt = false;
+  std::string behaelterStatus;
 
   Lauf(ProjectState& s_, ui::Oberflaeche& ui_, ErgebnisSeite& seite_, RechenKontext& k_, int16_t art_,
        int16_t punkt_)

@@ -87,6 +87,7 @@ bool UnterKritisch(Lauf& l, double rho) {
     l.rhoL = rho;
     if (l.v > s.EOS.bT) l.p = PzuTV(s, l.T, l.v, e);
     if (l.v <= s.EOS.bT || e != 0) {
+      if (s.Modell.RechnungGlobal) l.behaelterStatus = "ERROR1";
       MeldeFehler(l, s.Modell.RechnungGlobal ? "ERROR1" : " (v <= b)");
       return false;
     }

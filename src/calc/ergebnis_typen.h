@@ -124,6 +124,8 @@ struct BehaelterZustand {
   double vL = 0, vV = 0; // phase volumes, m^3/kmol (0 for a phase not present)
   double y = 0;          // vapour fraction by amount
   bool HatL = false, HatV = false;
+  bool Fehler = false; // the calculation ended with an error; p is 0 then
+  std::string Status;  // "" or "ERROR1" (v at or below the co-volume b of the EOS)
 };
 
 // What the page and its calculation share: the options of the further output blocks, the records

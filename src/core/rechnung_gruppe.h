@@ -37,6 +37,7 @@ struct RechnungGruppe {
   bool EingabeMasse = true;     // the vessel takes a mass, not an amount
   BehaelterDaten Behaelter;
   FensterLage ErgebnisSeite; // the result page, kept for its next opening
+  FensterLage Kessel;        // the vessel picture, kept for its next opening
 };
 
 } // namespace quor
