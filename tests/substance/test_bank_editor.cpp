@@ -243,6 +243,8 @@ TEST(BankEditorPrivateDatenbank, HoldsTwoRecordsKeepsTheUnusedCellsAndOpensLikeA
     DatenbankSatz alt(typ);
     ASSERT_TRUE(LeseStoffSatz(s, 2, alt));
     EXPECT_EQ(kopf.Nummer(), 1);
+    EXPECT_EQ(kopf.Text(SatzFeld::Formel).substr(0, 10), HeutigesDatum());
+    EXPECT_EQ(kopf.Text(SatzFeld::NameDeutsch).find_first_not_of(' '), std::string::npos);
     EXPECT_EQ(neu.Nummer(), 1);
     for (int i : behalten)
       EXPECT_EQ(neu.Zelle(i), alt.Zelle(i)) << "cell " << i;
