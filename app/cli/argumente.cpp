@@ -89,6 +89,8 @@ const Option Optionen[] = {
     {"--ideal", false, "process"},
     {"--eta", true, "process"},
     {"--value", true, "iso"},
+    {"--groups", true, "joback"},
+    {"--tb", true, "joback"},
 };
 
 const Option* FindeOption(const std::string& name) {
@@ -272,6 +274,26 @@ void IsoOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& werte
   }
 }
 
+// The group counts of the Joback estimate, "I:N,I:N,..." with the row I of the group table, and the
+// measured boiling point that answers the dialog's input box.
+void JobackOptionenLesen(Aufruf& a, const std::map<std::string, std::string>& werte) {
+  if (a.Befehl != "joback") return;
+  if (werte.count("--groups") == 0) throw Eingabefehler("joback needs --groups I:N,I:N,...");
+  const std::string& liste = werte.at("--groups");
+  std::size_t anfang = 0;
+  while (anfang <= liste.size()) {
+    const std::size_t ende = std::min(liste.find(',', anfang), liste.size());
+    const std::string paar = liste.substr(anfang, ende - anfang);
+    const std::size_t doppel = paar.find(':');
+    if (doppel == std::string::npos)
+      throw Eingabefehler("--groups \"" + paar + "\": expected the group's row and its count, I:N");
+    a.JobackGruppen.emplace_back(Ganzzahl("--groups", paar.substr(0, doppel), 0, 40),
+                                 Ganzzahl("--groups", paar.substr(doppel + 1), 0, 999));
+    anfang = ende + 1;
+  }
+  if (werte.count("--tb") != 0) a.JobackTb = PositiveZahl("--tb", werte.at("--tb"));
+}
+
 bool ArtErlaubt(const std::string& befehl, int a) {
   if (a < art::TRhoV || a > art::DbRhoS || a == art::Polytrope || a == art::OhneZweig) return false;
   return befehl != "batch" || !art::IstBehaelter(a);
@@ -374,11 +396,12 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
 
   if (positionen.empty())
     throw Eingabefehler(
-        "no command given (list, info, calc, batch, curve, surface, fit, process, iso; see quor-cli --help)");
+        "no command given (list, info, calc, batch, curve, surface, fit, process, iso, joback; see quor-cli "
+        "--help)");
   a.Befehl = positionen[0];
   if (a.Befehl != "list" && a.Befehl != "info" && a.Befehl != "calc" && a.Befehl != "batch" &&
       a.Befehl != "curve" && a.Befehl != "surface" && a.Befehl != "fit" && a.Befehl != "process" &&
-      a.Befehl != "iso")
+      a.Befehl != "iso" && a.Befehl != "joback")
     throw Eingabefehler("unknown command '" + a.Befehl + "' (see quor-cli --help)");
   const bool mitArt = a.Befehl == "calc" || a.Befehl == "batch";
   if (mitArt) {
@@ -465,6 +488,7 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
   FitOptionenLesen(a, werte);
   ProzessOptionenLesen(a, werte);
   IsoOptionenLesen(a, werte);
+  JobackOptionenLesen(a, werte);
   return a;
 }
 

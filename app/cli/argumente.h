@@ -9,6 +9,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quor::cli {
@@ -29,7 +30,7 @@ struct Aufruf {
   bool Json = false;
   bool Hilfe = false;
 
-  std::string Befehl; // list, info, calc, batch, curve, surface, fit, process, iso
+  std::string Befehl; // list, info, calc, batch, curve, surface, fit, process, iso, joback
   int Art = 0;        // kind of calc and batch
 
   // Options of calc and batch.
@@ -77,6 +78,10 @@ struct Aufruf {
   std::string IsoFix;                 // v, h, s, g, u, eh, eu, a
   std::optional<std::string> IsoWert; // --value as typed, a checked number
   std::optional<double> IsoStart;     // --start: the free variable's first trial (kPa or K)
+
+  // Options of joback.
+  std::vector<std::pair<int, int>> JobackGruppen; // --groups: row of the group table, count
+  std::optional<double> JobackTb;                 // --tb: measured normal boiling point, K
 
   std::set<std::string> Gegeben;           // every option named on the line
   std::map<std::string, std::string> Text; // the value of each option as typed

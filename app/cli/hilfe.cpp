@@ -36,6 +36,10 @@ Commands:
   iso (--T X | --p X) --fix F --value X [--phase V|L] [--start X]
                           the iso-line calculator: the p (kPa) or T (K) at which the function
                           F of the phase takes the value X at the given T or p
+  joback --groups I:N,I:N,... [--tb X]
+                          the group-contribution estimate (Joback): molar mass, critical data,
+                          normal boiling and freezing point, omega, formation quantities and
+                          the ideal-gas cp polynomial from the counts of the groups
 
 Kinds (KIND):
   1  T, rho(V) => p          2  T, rho(L) => p          3  T, p => rho
@@ -141,6 +145,21 @@ Options of iso:
   Prints "p = X kPa" or "T = X K"; without a solution "keine Lösung" and exit code 1.
   JSON: {"given", "fixed", "value", "phase", "solved", "result", "unit", "T", "p",
   "messages"}; T and p only when solved.
+
+Options of joback (no database or substance needed):
+  --groups I:N,...        the count N of the group in row I (0 to 40) of the group table:
+                          0 -CH3, 1 -CH2-, 2 >CH-, 3 >C<, 4 =CH2, 5 =CH-, 6 =C<, 7 =C=, 8 -=CH,
+                          9 -=C-, 10 to 14 the ring carbons -CH2-, >CH-, >C<, =CH-, =C<, 15 -F,
+                          16 -Cl, 17 -Br, 18 -I, 19 -OH (alcohol), 20 -OH (phenol), 21 -O-,
+                          22 -O- (ring), 23 >C=O, 24 >C=O (ring), 25 -CHO, 26 -COOH, 27 -COO-,
+                          28 =O, 29 -NH2, 30 >NH, 31 >NH (ring), 32 >N-, 33 -N=, 34 -N= (ring),
+                          35 =NH, 36 -CN, 37 -NO2, 38 -SH, 39 -S-, 40 -S- (ring);
+                          isopropanol: 0:2,2:1,19:1
+  --tb X                  a measured normal boiling point in K for T(cr) (the dialog's box)
+  Prints the values as the dialog shows them; "=NH" leaves the critical data out with the
+  dialog's message. JSON: {"M", "atoms", "Tb", "Tf", "Tc", "pc", "vc", "rhoCr", "omega", "hf",
+  "gf", "cp": [C0, C1, C2, C3], "messages"} in K, kPa, m^3/kmol, kg/m^3, kJ/kmol and
+  kJ/(kmol K); the critical data and omega are null when they could not be calculated.
 
 Global options:
   --db PATH               database (.Q07, or .Q06); default QUOR.Q07 of the program directory
