@@ -10,6 +10,8 @@
 #include <QStandardPaths>
 #include <QStringList>
 
+#include <cstdio>
+
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
   QApplication::setApplicationName("QUOR");
@@ -22,6 +24,12 @@ int main(int argc, char* argv[]) {
   const std::string programmVerzeichnis =
       quor::ProgrammVerzeichnisEinrichten(QApplication::applicationDirPath().toStdString(), benutzer);
   QDir::setCurrent(QString::fromStdString(programmVerzeichnis));
+  // What the installation holds, as the program finds it, without opening a window.
+  if (QApplication::arguments().contains("--installation")) {
+    bool vollstaendig = false;
+    std::fputs(quor::InstallationsBericht(programmVerzeichnis, vollstaendig).c_str(), stdout);
+    return vollstaendig ? 0 : 1;
+  }
 
   quor::ui::QtOberflaeche oberflaeche(nullptr, programmVerzeichnis + "/help");
   quor::ProjectState state;

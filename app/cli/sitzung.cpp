@@ -22,22 +22,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The folder of this executable.
-std::string ExeVerzeichnis() {
-  std::error_code fehler;
-  const fs::path exe = fs::read_symlink("/proc/self/exe", fehler);
-  return fehler ? fs::current_path(fehler).u8string() : exe.parent_path().u8string();
-}
-
-// The per-user folder that takes the program's files when the executable's folder is read-only.
-std::string BenutzerVerzeichnis() {
-  const char* xdg = std::getenv("XDG_DATA_HOME");
-  if (xdg != nullptr && *xdg == '/') return (fs::u8path(xdg) / "QUOR").u8string();
-  const char* home = std::getenv("HOME");
-  const fs::path basis = home != nullptr && *home != '\0' ? fs::u8path(home) : fs::temp_directory_path();
-  return (basis / ".local" / "share" / "QUOR").u8string();
-}
-
 bool EndetAufQ06(const std::string& pfad) {
   if (pfad.size() < 4) return false;
   std::string endung = pfad.substr(pfad.size() - 4);

@@ -9,9 +9,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <regex>
 #include <string>
 #include <tuple>
@@ -49,6 +51,19 @@ inline Ergebnis StarteProgramm(const std::string& programm, const std::vector<st
   for (const char* bericht : {"AddressSanitizer", "LeakSanitizer", "runtime error:"})
     EXPECT_EQ(e.fehler.find(bericht), std::string::npos) << e.fehler;
   return e;
+}
+
+// The full path of a program on the search path; empty when it isn't installed.
+inline std::string Werkzeug(const std::string& name) {
+  const char* pfad = std::getenv("PATH");
+  std::string liste = pfad ? pfad : "/usr/bin";
+  for (std::size_t a = 0; a <= liste.size();) {
+    const std::size_t e = std::min(liste.find(':', a), liste.size());
+    const auto kandidat = std::filesystem::path(liste.substr(a, e - a)) / name;
+    if (std::filesystem::exists(kandidat)) return kandidat.string();
+    a = e + 1;
+  }
+  return "";
 }
 
 // Runs quor-cli.

@@ -35,18 +35,6 @@ std::size_t Anzahl(const std::string& text, const std::string& teil) {
   return n;
 }
 
-std::string Werkzeug(const std::string& name) {
-  const char* pfad = std::getenv("PATH");
-  std::string liste = pfad ? pfad : "/usr/bin";
-  for (std::size_t a = 0; a <= liste.size();) {
-    const std::size_t e = std::min(liste.find(':', a), liste.size());
-    const auto kandidat = std::filesystem::path(liste.substr(a, e - a)) / name;
-    if (std::filesystem::exists(kandidat)) return kandidat.string();
-    a = e + 1;
-  }
-  return "";
-}
-
 TEST(QuorPlot, PropanePvDiagramWithCoexistenceAndThreeIsothermsInEachFormat) {
   TempOrdner tmp;
   const std::vector<std::string> kurven = {"--code", "1",   "--coexistence", "--T",    "300",    "--T",
