@@ -145,8 +145,8 @@ void frmInputProzessLinien::chkEndToBegin_Click(bool an) {
   EndToBegin = an;
   if (!an) return;
   const std::vector<ProzessZustand>& z = s_.Diagramm.Prozess.Zustaende;
-  if (!Linie.punkte.empty()) {
-    StartpunktSetzen(Linie.punkte.back().T, Linie.punkte.back().p);
+  if (endeT_ > 0 && endeP_ > 0) {
+    StartpunktSetzen(endeT_, endeP_);
   } else if (!z.empty()) {
     StartpunktSetzen(z.back().T, z.back().p);
   }

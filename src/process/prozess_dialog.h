@@ -128,6 +128,7 @@ private:
 
   ProjectState& s_;
   ui::Oberflaeche& ui_;
+  double endeT_ = 0, endeP_ = 0; // the end state of the last line (0: none yet)
   DiagrammAuftrag diagramm_;
   DiagrammAuftrag auftrag_;
 };

@@ -96,6 +96,7 @@ ProzessFolge frmInputProzessLinien::Linienzug(const ProzessVorgabe& v) {
     Melde(Linie.meldungen.front());
     return ProzessFolge::Nichts;
   }
+  if (!Linie.punkte.empty()) endeT_ = Linie.punkte.back().T, endeP_ = Linie.punkte.back().p;
   ProzessUebergeben(s_, v, Linie, diagramm_.Code);
   auftrag_ = diagramm_;
   auftrag_.Code = KurvenCode(v);
@@ -165,6 +166,8 @@ ProzessFolge frmInputProzessLinien::PolytropeUebernehmen(const ProzessVorgabe& v
   Ergebnisse = r.kopf;
   Bericht = r.bericht;
   Linie = {};
+  endeT_ = r.kopf[KopfT2];
+  endeP_ = r.kopf[KopfP2];
   if (AusRechnung) {
     // The result page shows the start point and the calculator's report.
     ExpDatenSatz& zeile = s_.Mess.ExpDaten.at(0);

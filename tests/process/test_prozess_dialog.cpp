@@ -6,9 +6,14 @@
 #include "engine/kalorik.h"
 #include "engine/saettigung.h"
 #include "process/prozess_dialog.h"
+#include "dienste/kind_prozess.h"
 #include "support/relativ.h"
+#include "support/temp_ordner.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
 
 namespace quor::test {
 namespace {
@@ -213,6 +218,37 @@ TEST(ProzessDialog, TheCurveParameterAndTheDegreeOfVaporizationAreTakenOver) {
   EXPECT_EQ(eta.d.txtEta, "1E-35");
   EXPECT_EQ(eta.d.Auftrag().Code, code::ProzessHeterogen);
   EXPECT_TRUE(eta.s.Diagramm.Prozess.ProzessHetero);
+}
+
+TEST(ProzessDialog, ThePolytropeGoesToTheCalculatorAndTheNextLineStartsAtItsEnd) {
+  TempOrdner ordner("quor_prozess_dialog_");
+  Dialog t(Polytrope);
+  t.s.Datenbank.ProgrammVerzeichnis = ordner.Pfad();
+  t.ui.prozessAusfuehren = ui::StarteKindProzess;
+  frmInputProzessLinien& d = t.d;
+  d.cmbKappa = "1.3";
+  d.txtN = "1.2";
+  d.txtT1 = "300", d.txtP1 = "500", d.txtEnde = "2000";
+  d.optTp_Click(BereichP);
+  // Without the calculator in the program directory: its message, then the dialog's.
+  EXPECT_EQ(d.cmdDrawPL(), ProzessFolge::Nichts);
+  ASSERT_EQ(t.ui.Meldungen().size(), 2u);
+  EXPECT_EQ(t.ui.Meldungen()[0].text, "File Merlon_1.EXE im QUOR-Verzeichnis nicht gefunden");
+  EXPECT_EQ(t.Meldung(), "Fehler bei der Polytropenberechnung");
+
+  std::filesystem::create_symlink(std::string(QUOR_PROGRAMM_VERZEICHNIS) + "/" + PexProgramm,
+                                  ordner.Datei(PexProgramm));
+  d.Form_Load(Polytrope, DiagrammAuftrag{}, true);
+  ASSERT_EQ(d.cmdDrawPL(), ProzessFolge::Ergebnisseite);
+  EXPECT_NE(d.Bericht.find("Polytrop"), std::string::npos);
+  // The result page's start point is row 0 of the measured data.
+  EXPECT_EQ(t.s.Mess.ExpDaten[0].T, 300);
+  EXPECT_EQ(t.s.Mess.ExpDaten[0].p, 500);
+  // The ideal gas is the first choice of the model: T2 = T1 (p2/p1)^((n-1)/n).
+  d.Form_Load(Isentrope, t.ts);
+  d.chkEndToBegin_Click(true);
+  EXPECT_REL(std::stod(d.txtT1), 300 * std::pow(4.0, 0.2 / 1.2), 1e-5);
+  EXPECT_REL(std::stod(d.txtP1), 2000, 1e-6);
 }
 
 } // namespace
