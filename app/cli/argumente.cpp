@@ -91,6 +91,8 @@ const Option Optionen[] = {
     {"--value", true, "iso"},
     {"--groups", true, "joback"},
     {"--tb", true, "joback"},
+    {"--out", true, "private-db"},
+    {"--set", true, "private-db"},
 };
 
 const Option* FindeOption(const std::string& name) {
@@ -396,12 +398,12 @@ Aufruf LeseAufruf(const std::vector<std::string>& argumente) {
 
   if (positionen.empty())
     throw Eingabefehler(
-        "no command given (list, info, calc, batch, curve, surface, fit, process, iso, joback; see quor-cli "
-        "--help)");
+        "no command given (list, info, calc, batch, curve, surface, fit, process, iso, joback, private-db; see "
+        "quor-cli --help)");
   a.Befehl = positionen[0];
   if (a.Befehl != "list" && a.Befehl != "info" && a.Befehl != "calc" && a.Befehl != "batch" &&
       a.Befehl != "curve" && a.Befehl != "surface" && a.Befehl != "fit" && a.Befehl != "process" &&
-      a.Befehl != "iso" && a.Befehl != "joback")
+      a.Befehl != "iso" && a.Befehl != "joback" && a.Befehl != "private-db")
     throw Eingabefehler("unknown command '" + a.Befehl + "' (see quor-cli --help)");
   const bool mitArt = a.Befehl == "calc" || a.Befehl == "batch";
   if (mitArt) {

@@ -27,6 +27,7 @@ int Ausfuehren(const std::vector<std::string>& argumente, std::ostream& aus, std
     if (gespeichert.Befehl == "process") return BefehlProcess(*z, aus, fehler);
     if (gespeichert.Befehl == "iso") return BefehlIso(*z, aus, fehler);
     if (gespeichert.Befehl == "joback") return BefehlJoback(*z, aus, fehler);
+    if (gespeichert.Befehl == "private-db") return BefehlPrivateDb(*z, aus, fehler);
     return BefehlBatch(*z, aus, fehler);
   } catch (const CliFehler& e) {
     if (z) MeldungenSchreiben(fehler, Meldungen(z->ui, z->Gedruckt, z->ui.protokoll.size()));

@@ -19,6 +19,7 @@ int BefehlFit(Sitzung& z, std::ostream& aus, std::ostream& fehler);
 int BefehlProcess(Sitzung& z, std::ostream& aus, std::ostream& fehler);
 int BefehlIso(Sitzung& z, std::ostream& aus, std::ostream& fehler);
 int BefehlJoback(Sitzung& z, std::ostream& aus, std::ostream& fehler);
+int BefehlPrivateDb(Sitzung& z, std::ostream& aus, std::ostream& fehler);
 
 // Runs a whole command line (argv without the program name); never throws.
 int Ausfuehren(const std::vector<std::string>& argumente, std::ostream& aus, std::ostream& fehler);

@@ -40,6 +40,9 @@ Commands:
                           the group-contribution estimate (Joback): molar mass, critical data,
                           normal boiling and freezing point, omega, formation quantities and
                           the ideal-gas cp polynomial from the counts of the groups
+  private-db --out FILE [--set DD=X,...]
+                          the substance data editor: the substance's data, changed by --set,
+                          taken over and written as the private database of the one substance
 
 Kinds (KIND):
   1  T, rho(V) => p          2  T, rho(L) => p          3  T, p => rho
@@ -160,6 +163,15 @@ Options of joback (no database or substance needed):
   dialog's message. JSON: {"M", "atoms", "Tb", "Tf", "Tc", "pc", "vc", "rhoCr", "omega", "hf",
   "gf", "cp": [C0, C1, C2, C3], "messages"} in K, kPa, m^3/kmol, kg/m^3, kJ/kmol and
   kJ/(kmol K); the critical data and omega are null when they could not be calculated.
+
+Options of private-db (with --db and --substance):
+  --out FILE              the private database to write (.Q07, or .Q06 for a .Q06 database):
+                          a header and the substance's record; the cells the program doesn't
+                          hold keep the open database's values
+  --set DD=X,...          field DD of the data editor takes the text X before the take-over
+                          (4 T(cr), 5 p(cr), 7 omega, 1 T(b), 122 S(konv.) ...; "<>" no value,
+                          0 an entered zero); the take-over derives flags, tag, T(b) and August
+  Prints the file's name with the substance's name and CAS number.
 
 Global options:
   --db PATH               database (.Q07, or .Q06); default QUOR.Q07 of the program directory
