@@ -41,6 +41,7 @@ RechnungsAblauf::Ansicht RechnungSteuerung::Ansicht() {
   a.SeiteGeladen = [this](bool offen) { SeiteGeladen(offen); };
   a.SeiteGerechnet = [this] {
     if (seite_) seite_->Zeige();
+    BehaelterNachreichen();
   };
   a.SeiteSchliessen = [this] {
     disconnect(seite_, &ErgebnisFenster::entladen, this, &RechnungSteuerung::SeiteEntladen);
@@ -105,6 +106,8 @@ frmQCalcOut* RechnungSteuerung::SeiteAnlegen() {
   if (seitenFenster_) seitenFenster_->close();
   seite_ = new ErgebnisFenster(s_, ui_, s_.Rechnung.StapelModus);
   if (IsoRechnerZeigen) seite_->IsoRechnerOeffnen = [this] { IsoRechnerZeigen(seite_->Logik().Kontext); };
+  behaelter_.reset();
+  seite_->Logik().Kontext.BehaelterAnzeige = [this](const BehaelterZustand& z) { behaelter_ = z; };
   return &seite_->Logik();
 }
 
@@ -112,6 +115,7 @@ void RechnungSteuerung::SeiteGeladen(bool offen) {
   if (!offen) {
     delete seite_;
     seite_ = nullptr;
+    behaelter_.reset();
     return;
   }
   seite_->Zeige();
@@ -127,6 +131,15 @@ void RechnungSteuerung::SeiteGeladen(bool offen) {
   connect(seite_, &ErgebnisFenster::superKritUmschalten, this, &RechnungSteuerung::SuperKritUmschalten);
   seitenFenster_->show();
   flaeche_->setActiveSubWindow(seitenFenster_);
+  BehaelterNachreichen();
+}
+
+// The vessel's state goes to its picture once the page shows the calculation it came from.
+void RechnungSteuerung::BehaelterNachreichen() {
+  if (!behaelter_) return;
+  const BehaelterZustand z = *behaelter_;
+  behaelter_.reset();
+  if (BehaelterZeigen && seite_) BehaelterZeigen(z);
 }
 
 void RechnungSteuerung::ParinputZeigen() {

@@ -16,6 +16,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 class QMdiArea;
@@ -43,6 +44,9 @@ public:
   // the page's context (set by the frame).
   std::function<void()> ProzessZeigen;
   std::function<void(const RechenKontext&)> IsoRechnerZeigen;
+  // The vessel picture of kinds 9 and 10 with the state the calculation handed on; it opens after
+  // the result page has shown the calculation (set by the frame).
+  std::function<void(const BehaelterZustand&)> BehaelterZeigen;
 
   RechnungsFenster Fenster() { return ablauf_.Fenster(); }
 
@@ -63,6 +67,7 @@ private:
   void SuperKritUmschalten();
   void SeiteEntladen();
   void BegleiterSchliessen();
+  void BehaelterNachreichen();
 
   ProjectState& s_;
   Oberflaeche& ui_;
@@ -74,6 +79,8 @@ private:
   QPointer<CalcInFenster> calcIn_;
   QPointer<CEOSDiagnoseFenster> diagnose_;
   QPointer<SuperKritFenster> superKrit_;
+  // The vessel's state handed on by the last calculation and not yet shown.
+  std::optional<BehaelterZustand> behaelter_;
   RechnungsAblauf ablauf_; // last: its hooks use the members above
 };
 

@@ -48,6 +48,16 @@ void ProzessSteuerung::Schliessen() {
   fenster_ = nullptr;
   if (iso_) iso_->close();
   iso_ = nullptr;
+  if (kessel_) kessel_->close();
+  kessel_ = nullptr;
+}
+
+void ProzessSteuerung::KesselOeffnen(const BehaelterZustand& z) {
+  if (kessel_) kessel_->close();
+  kessel_ = new KesselFenster(s_, ui_, z, rahmen_);
+  kessel_->setAttribute(Qt::WA_DeleteOnClose);
+  kessel_->show();
+  kessel_->raise();
 }
 
 void ProzessSteuerung::IsoRechnerOeffnen(const RechenKontext& seite) {

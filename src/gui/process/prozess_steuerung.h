@@ -6,6 +6,7 @@
 #pragma once
 
 #include "gui/process/iso_rechner_fenster.h"
+#include "gui/process/kessel_fenster.h"
 #include "gui/process/prozess_fenster.h"
 #include "process/prozess_dialog.h"
 
@@ -36,6 +37,9 @@ public:
   // The iso-line calculator of a result page, with the page's context (its last state).
   void IsoRechnerOeffnen(const RechenKontext& seite);
   IsoRechnerFenster* IsoRechner() const { return iso_; }
+  // The vessel picture of a vessel calculation; a new state replaces the picture on show.
+  void KesselOeffnen(const BehaelterZustand& z);
+  KesselFenster* Kessel() const { return kessel_; }
   // Opens the X-Y editor for the calculator's curve points (set by the frame).
   std::function<void()> KurvenInputOeffnen;
 
@@ -56,6 +60,7 @@ private:
   std::unique_ptr<prozess::frmInputProzessLinien> logik_;
   QPointer<ProzessFenster> fenster_;
   QPointer<IsoRechnerFenster> iso_;
+  QPointer<KesselFenster> kessel_;
 };
 
 } // namespace quor::ui
