@@ -48,7 +48,8 @@ TEST(TavikFenster, TheEnglishWindowSpeaksEnglish) {
   EXPECT_EQ(f.GroessenListe()->item(1)->text(), "Pressure");
   f.GroessenListe()->setCurrentRow(2);
   f.WertFeld()->setText("1");
-  EXPECT_EQ(f.Ergebnis(0), "needs the molar mass");
+  EXPECT_EQ(f.Ergebnis(0), "1");
+  EXPECT_EQ(f.Ergebnis(3), "needs the molar mass");
 }
 
 } // namespace

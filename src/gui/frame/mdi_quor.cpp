@@ -8,7 +8,9 @@
 #include "gui/basis/schirm.h"
 #include "gui/basis/symbole.h"
 #include "gui/calc/rechnung_steuerung.h"
+#include "gui/frame/stoff_editor_steuerung.h"
 #include "gui/process/prozess_steuerung.h"
+#include "substance/joback.h"
 #include "gui/diagrams/graph2d_steuerung.h"
 #include "gui/diagrams/graph3d_steuerung.h"
 #include "gui/fitting/daten_editor_steuerung.h"
@@ -50,6 +52,11 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
   graf3d_ = new Graph3DSteuerung(state, ui, mdi_, this);
   editoren_ = new DatenEditorSteuerung(state, ui, mdi_, graf2d_, this);
   prozess_ = new ProzessSteuerung(state, ui, *graf2d_, this);
+  stoffEditoren_ = new StoffEditorSteuerung(state, ui, mdi_, *graf2d_, this);
+  stoffEditoren_->Geaendert = [this] { Aktualisieren(); };
+  stoffEditoren_->ModellFensterNeu = [this] {
+    if (modell_ && modellFenster_ && modellFenster_->isVisible()) modell_->Laden();
+  };
   rechnung_->ProzessZeigen = [this] { prozess_->Oeffnen(prozess::Polytrope, true); };
   prozess_->PolytropeErgebnis = [this](const std::string& bericht) { return rechnung_->PolytropeZeigen(bericht); };
   rechnung_->IsoRechnerZeigen = [this](const RechenKontext& k) { prozess_->IsoRechnerOeffnen(k); };
@@ -120,6 +127,10 @@ void mdiQUOR::BefehleRegistrieren() {
   r.Handler("mnuData_BatchInput", [this](int) { logik_->mnuData_BatchInput_Click(); });
   r.Handler("mnuData_BatchEdit", [this](int) { editoren_->MessdatenEditorZeigen(); });
   r.Handler("mnuData_EditXY", [this](int) { editoren_->XYEditorZeigen(); });
+  r.Handler("mnuData_EditDatenbank", [this](int) { stoffEditoren_->BankEditorZeigen(); });
+  r.Handler("mnuData_Joback_CritData", [this](int) { stoffEditoren_->JobackZeigen(JobackKritisch); });
+  r.Handler("mnuData_JOBACK_bildung", [this](int) { stoffEditoren_->JobackZeigen(JobackBildung); });
+  r.Handler("mnuData_JOBACK_cpIdG", [this](int) { stoffEditoren_->JobackZeigen(JobackCp); });
   r.Handler("mnuData_Fitting", [this](int) { editoren_->FittingZeigen(); });
   r.Handler("mnuFitting", [this](int) { editoren_->FittingZeigen(); });
   editoren_->BatchDateiWaehlen = [this](const std::string& titel, const std::string& muster) {
@@ -288,6 +299,7 @@ void mdiQUOR::ModellFensterZeigen(bool neuAufbauen) {
     modellFenster_->setObjectName("frmQModellFenster");
     modellFenster_->setAttribute(Qt::WA_DeleteOnClose, false); // closing hides the switchboard
     connect(modell_, &ModellFenster::geaendert, this, &mdiQUOR::Aktualisieren);
+    connect(modell_, &ModellFenster::geaendert, stoffEditoren_, &StoffEditorSteuerung::ModellGeaendert);
     neuAufbauen = true;
   }
   if (neuAufbauen) modell_->Laden();

@@ -25,6 +25,7 @@ class Graph2DSteuerung;
 class Graph3DSteuerung;
 class ModellFenster;
 class ProzessSteuerung;
+class StoffEditorSteuerung;
 class RechnungSteuerung;
 class StoffWahlFenster;
 
@@ -56,6 +57,7 @@ public:
   Graph3DSteuerung* Graf3D() const { return graf3d_; }
   DatenEditorSteuerung* Editoren() const { return editoren_; }
   ProzessSteuerung* Prozess() const { return prozess_; }
+  StoffEditorSteuerung* StoffEditoren() const { return stoffEditoren_; }
 
   // Enabled entries and buttons, status bar panels and Ampel from the project state.
   void Aktualisieren();
@@ -95,6 +97,7 @@ private:
   Graph3DSteuerung* graf3d_ = nullptr;       // the 3D diagram page
   DatenEditorSteuerung* editoren_ = nullptr; // the data editors and the fitting dialog
   ProzessSteuerung* prozess_ = nullptr;      // the process dialog
+  StoffEditorSteuerung* stoffEditoren_ = nullptr; // the substance data editor and the estimate
 };
 
 } // namespace quor::ui
