@@ -1,9 +1,11 @@
 // The vessel picture's window: the caption and the texts of its logic in the drawing, the filling's
 // colours below and above the level at two sizes, the error case without a filling, and the place
-// of the window kept for its next opening.
+// of the window kept for its next opening; the vessel calculation of the frame hands its state on
+// once the result page shows it.
 #include "dienste/skript_oberflaeche.h"
 #include "gui/process/kessel_fenster.h"
 #include "gui_hilfe.h"
+#include "programm_hilfe.h"
 
 #include <gtest/gtest.h>
 
@@ -80,7 +82,9 @@ TEST(KesselFenster, DrawsTheLogicsTextsAndTheFillingAtAnySize) {
     // Liquid just below the level and vapour just above it, in a small and a large window.
     for (const QSize groesse : {QSize(360, 280), QSize(1200, 760)}) {
       w.resize(groesse);
-      if (prozent == 30 && groesse.width() < 400) EXPECT_TRUE(test::Bild(&w, "kessel_30_klein.png"));
+      if (prozent == 30 && groesse.width() < 400) {
+        EXPECT_TRUE(test::Bild(&w, "kessel_30_klein.png"));
+      }
       const QImage bild = w.Bild()->grab().toImage();
       const double spiegel = w.Logik().SpiegelY() / 100 * bild.height();
       const int x = bild.width() * 40 / 100;
@@ -118,6 +122,36 @@ TEST(KesselFenster, ErrorShowsNoFillingAndThePlaceIsKept) {
   KesselFenster wieder(s, ui, Zweiphasig(50));
   EXPECT_EQ(wieder.size(), QSize(500, 400));
   EXPECT_EQ(wieder.pos(), QPoint(s.Rechnung.Kessel.x, s.Rechnung.Kessel.y));
+}
+
+// GLOBAL from the toolbar, then PARTIAL through the concept dialog, whose page opens with the first
+// values: each calculation hands its state on once, with the page on show; an error too.
+TEST(KesselFenster, TheVesselCalculationHandsItsStateOnAfterThePage) {
+  test::RechnungsRahmen a;
+  std::vector<BehaelterZustand> gezeigt;
+  bool seiteSichtbar = false;
+  a.R().BehaelterZeigen = [&](const BehaelterZustand& z) {
+    gezeigt.push_back(z);
+    seiteSichtbar = a.Seite() && a.Seite()->isVisible();
+  };
+  a.fenster->Knopf(15)->trigger();
+  a.Eingeben({"1", "100", "", "150"}); // V, m, n, T
+  ASSERT_EQ(gezeigt.size(), 1u);
+  EXPECT_TRUE(seiteSichtbar);
+  EXPECT_TRUE(gezeigt[0].HatL && gezeigt[0].HatV);
+  EXPECT_EQ(gezeigt[0].T, 150);
+  a.Eingeben({"1", "2000", "", "150"});
+  ASSERT_EQ(gezeigt.size(), 2u);
+  EXPECT_EQ(gezeigt[1].Status, "ERROR1");
+
+  ASSERT_TRUE(a.Menue("mnuCalc", 16));
+  ASSERT_NE(a.R().CalcIn(), nullptr);
+  a.R().CalcIn()->OK()->click();
+  QApplication::processEvents();
+  a.Eingeben({"1", "100", "", "150"});
+  ASSERT_EQ(gezeigt.size(), 3u);
+  EXPECT_TRUE(seiteSichtbar);
+  EXPECT_FALSE(gezeigt[2].Fehler);
 }
 
 } // namespace

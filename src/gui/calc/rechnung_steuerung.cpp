@@ -41,7 +41,6 @@ RechnungsAblauf::Ansicht RechnungSteuerung::Ansicht() {
   a.SeiteGeladen = [this](bool offen) { SeiteGeladen(offen); };
   a.SeiteGerechnet = [this] {
     if (seite_) seite_->Zeige();
-    BehaelterNachreichen();
   };
   a.SeiteSchliessen = [this] {
     disconnect(seite_, &ErgebnisFenster::entladen, this, &RechnungSteuerung::SeiteEntladen);
@@ -131,15 +130,16 @@ void RechnungSteuerung::SeiteGeladen(bool offen) {
   connect(seite_, &ErgebnisFenster::superKritUmschalten, this, &RechnungSteuerung::SuperKritUmschalten);
   seitenFenster_->show();
   flaeche_->setActiveSubWindow(seitenFenster_);
-  BehaelterNachreichen();
 }
 
-// The vessel's state goes to its picture once the page shows the calculation it came from.
-void RechnungSteuerung::BehaelterNachreichen() {
-  if (!behaelter_) return;
-  const BehaelterZustand z = *behaelter_;
+// A calculation of the value dialog; the vessel's state goes to its picture once the page shows
+// the calculation it came from (not the page's own calculation when it opens without values).
+std::string RechnungSteuerung::Berechnen() {
   behaelter_.reset();
-  if (BehaelterZeigen && seite_) BehaelterZeigen(z);
+  const std::string ausgang = ablauf_.Berechnen();
+  if (behaelter_ && BehaelterZeigen && seite_ && ausgang != "EXIT") BehaelterZeigen(*behaelter_);
+  behaelter_.reset();
+  return ausgang;
 }
 
 void RechnungSteuerung::ParinputZeigen() {
@@ -152,7 +152,7 @@ void RechnungSteuerung::ParinputZeigen() {
   }
   if (!parinput_) {
     parinput_ = new ParinputFenster(
-        s_, ui_, [this] { return ablauf_.Berechnen(); }, rahmen_);
+        s_, ui_, [this] { return Berechnen(); }, rahmen_);
     parinput_->setAttribute(Qt::WA_DeleteOnClose);
   }
   parinput_->Laden();

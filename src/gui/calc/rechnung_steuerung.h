@@ -67,7 +67,7 @@ private:
   void SuperKritUmschalten();
   void SeiteEntladen();
   void BegleiterSchliessen();
-  void BehaelterNachreichen();
+  std::string Berechnen();
 
   ProjectState& s_;
   Oberflaeche& ui_;
@@ -79,7 +79,7 @@ private:
   QPointer<CalcInFenster> calcIn_;
   QPointer<CEOSDiagnoseFenster> diagnose_;
   QPointer<SuperKritFenster> superKrit_;
-  // The vessel's state handed on by the last calculation and not yet shown.
+  // The vessel's state handed on by the calculation under way.
   std::optional<BehaelterZustand> behaelter_;
   RechnungsAblauf ablauf_; // last: its hooks use the members above
 };
