@@ -38,7 +38,7 @@ TavikFenster::TavikFenster(bool englisch, QWidget* eltern)
   setWindowTitle(T(englisch, "Tavik1W  -  Einheiten umrechnen", "Tavik1W  -  unit converter"));
   for (Groesse g : Groessen())
     groessen_->addItem(QString::fromStdString(GroessenName(g, englisch)));
-  groessen_->setFixedWidth(220);
+  groessen_->setFixedWidth(200);
   wert_->setObjectName("txtWert");
   wert_->setText("1");
   einheit_->setObjectName("cmbEinheit");
@@ -51,6 +51,7 @@ TavikFenster::TavikFenster(bool englisch, QWidget* eltern)
   tabelle_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   tabelle_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   tabelle_->verticalHeader()->hide();
+  tabelle_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   tabelle_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   meldung_->setObjectName("lblMeldung");
   meldung_->setStyleSheet("color: #a00000;");
@@ -75,7 +76,7 @@ TavikFenster::TavikFenster(bool englisch, QWidget* eltern)
   auto* haupt = new QHBoxLayout(this);
   haupt->addWidget(groessen_);
   haupt->addLayout(rechts, 1);
-  resize(720, 420);
+  resize(720, 440);
 
   connect(groessen_, &QListWidget::currentRowChanged, this, &TavikFenster::GroesseGewaehlt);
   connect(wert_, &QLineEdit::textChanged, this, &TavikFenster::Rechnen);
