@@ -194,7 +194,8 @@ void BehaelterAnzeigen(Lauf& l) {
   BehaelterZustand z;
   z.T = l.T;
   z.Fehler = l.k.ErrorFlag;
-  z.Status = l.behaelterStatus;
+  // Any other error leaves no state for the picture: "ERROR2".
+  z.Status = z.Fehler && l.behaelterStatus.empty() ? "ERROR2" : l.behaelterStatus;
   z.p = z.Fehler ? 0 : l.p;
   z.v = l.v;
   z.vL = l.k.HatL ? l.vL : 0;

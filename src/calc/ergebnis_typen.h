@@ -125,7 +125,8 @@ struct BehaelterZustand {
   double y = 0;          // vapour fraction by amount
   bool HatL = false, HatV = false;
   bool Fehler = false; // the calculation ended with an error; p is 0 then
-  std::string Status;  // "" or "ERROR1" (v at or below the co-volume b of the EOS)
+  // "", "ERROR1" (v at or below the co-volume b of the EOS) or "ERROR2" (another error).
+  std::string Status;
 };
 
 // What the page and its calculation share: the options of the further output blocks, the records

@@ -1,7 +1,7 @@
 // The vessel picture: the segment solve against its closed form, the level mirrored above half full
 // and held near the limits, the pressure and fill level texts word for word, and the vessel of
 // methane with Peng/Robinson calculated through the dispatcher: partly filled, empty, full,
-// compressed below the co-volume, supercritical in GLOBAL and in PARTIAL.
+// compressed below the co-volume (GLOBAL and PARTIAL), supercritical in GLOBAL and in PARTIAL.
 #include "calc/calc_testhilfe.h"
 #include "core/rechen_art.h"
 #include "process/kessel.h"
@@ -156,6 +156,11 @@ TEST(Kessel, CompressedBelowTheCoVolumeShowsTheError) {
   EXPECT_EQ(k.lblFuellstand, "");
   EXPECT_EQ(v.r.s.Rechnung.Behaelter.BehaelterStatus, "ERROR1");
   EXPECT_EQ(v.r.s.Rechnung.Behaelter.BehaelterP, 0);
+  // PARTIAL words the same failure on the page only; the picture points to the help.
+  const frmKessel partial = v.Rechne(art::BehaelterPartial, 2000, 1, 150);
+  EXPECT_EQ(partial.txtDruck, "s. Hilfe 'Behälter'");
+  EXPECT_EQ(partial.Fuellung, KesselFuellung::Leer);
+  EXPECT_EQ(v.r.s.Rechnung.Behaelter.BehaelterStatus, "ERROR2");
 }
 
 TEST(Kessel, SupercriticalVesselHasOneColourByConcept) {
