@@ -52,7 +52,8 @@ Kinds (KIND):
   14 rho(L) database         24 rho(S) database         15 delta(LV)h database
   16 cp(idG) database        17 cp(L) database          18 cp(S) database
   19 Frost/Kalkwarf p(LV)    20 Wagner p(LV)            21 Antoine (low p)   22 Antoine (high p)
-  Kinds 9 and 10 are not available for batch.
+  Kinds 9 and 10 are not available for batch; calc ends them with the vessel picture's
+  caption, pressure field (p: ...) and fill level.
 
 Options of calc:
   --T X, --p X            temperature in K, pressure in kPa
