@@ -45,13 +45,13 @@ std::string Entitaet(const std::string& name) {
     return Utf8(static_cast<std::uint32_t>(c));
   }
   static const std::pair<const char*, std::uint32_t> namen[] = {
-      {"nbsp", 0xA0},   {"amp", '&'},     {"lt", '<'},      {"gt", '>'},      {"quot", '"'},
-      {"apos", '\''},   {"auml", 0xE4},   {"ouml", 0xF6},   {"uuml", 0xFC},   {"Auml", 0xC4},
-      {"Ouml", 0xD6},   {"Uuml", 0xDC},   {"szlig", 0xDF},  {"deg", 0xB0},    {"middot", 0xB7},
-      {"times", 0xD7},  {"sup2", 0xB2},   {"sup3", 0xB3},   {"ndash", 0x2013}, {"mdash", 0x2014},
-      {"rarr", 0x2192}, {"larr", 0x2190}, {"asymp", 0x2248}, {"le", 0x2264},   {"ge", 0x2265},
+      {"nbsp", 0xA0},     {"amp", '&'},      {"lt", '<'},       {"gt", '>'},       {"quot", '"'},
+      {"apos", '\''},     {"auml", 0xE4},    {"ouml", 0xF6},    {"uuml", 0xFC},    {"Auml", 0xC4},
+      {"Ouml", 0xD6},     {"Uuml", 0xDC},    {"szlig", 0xDF},   {"deg", 0xB0},     {"middot", 0xB7},
+      {"times", 0xD7},    {"sup2", 0xB2},    {"sup3", 0xB3},    {"ndash", 0x2013}, {"mdash", 0x2014},
+      {"rarr", 0x2192},   {"larr", 0x2190},  {"asymp", 0x2248}, {"le", 0x2264},    {"ge", 0x2265},
       {"hellip", 0x2026}, {"bdquo", 0x201E}, {"ldquo", 0x201C}, {"rdquo", 0x201D}, {"rho", 0x3C1},
-      {"eta", 0x3B7},   {"Delta", 0x394}, {"delta", 0x3B4}, {"kappa", 0x3BA}, {"omega", 0x3C9}};
+      {"eta", 0x3B7},     {"Delta", 0x394},  {"delta", 0x3B4},  {"kappa", 0x3BA},  {"omega", 0x3C9}};
   for (const auto& [n, c] : namen)
     if (name == n) return c == 0xA0 ? std::string(" ") : Utf8(c);
   return {};
@@ -96,7 +96,8 @@ std::string HilfeSeitenText(const std::string& html) {
       const std::size_t zu = html.find('>', i);
       if (zu == std::string::npos) break;
       std::size_t n = i + 1;
-      while (n < zu && IstWortZeichen(static_cast<unsigned char>(html[n]))) ++n;
+      while (n < zu && IstWortZeichen(static_cast<unsigned char>(html[n])))
+        ++n;
       const std::string tag = klein.substr(i + 1, n - i - 1);
       i = zu + 1;
       if (tag == "style" || tag == "script") {
@@ -128,7 +129,8 @@ std::string HilfeSeitenText(const std::string& html) {
       text += c;
     }
   }
-  while (!text.empty() && text.back() == ' ') text.pop_back();
+  while (!text.empty() && text.back() == ' ')
+    text.pop_back();
   return text;
 }
 

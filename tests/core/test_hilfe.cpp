@@ -56,14 +56,16 @@ std::string Seite(const std::string& name) {
 std::set<std::string> Anker(const std::string& html) {
   std::set<std::string> anker;
   const std::regex id(R"re(\b(?:id|name)\s*=\s*"([^"]+)")re");
-  for (std::sregex_iterator it(html.begin(), html.end(), id), ende; it != ende; ++it) anker.insert((*it)[1]);
+  for (std::sregex_iterator it(html.begin(), html.end(), id), ende; it != ende; ++it)
+    anker.insert((*it)[1]);
   return anker;
 }
 
 TEST(HilfeSeiten, EveryTopicNumberOfTheSourcesHasItsPage) {
   const std::map<int, std::string> themen = ThemenDerQuellen();
   // The scan itself works: the contents, the menu's pages and a dialog's constant are among them.
-  for (const int bekannt : {0, 11223, 45333, 47100}) EXPECT_EQ(themen.count(bekannt), 1u) << bekannt;
+  for (const int bekannt : {0, 11223, 45333, 47100})
+    EXPECT_EQ(themen.count(bekannt), 1u) << bekannt;
   for (const auto& [thema, datei] : themen) {
     const std::string html = Seite(SeiteZuThema(thema));
     ASSERT_FALSE(html.empty()) << "topic " << thema << " of " << datei << " has no page";
@@ -75,7 +77,8 @@ TEST(HilfeSeiten, EveryLinkLandsOnAPageAndItsAnchorAndTheContentsListEveryPage) 
   const std::set<std::string> seiten = Seiten();
   ASSERT_GE(seiten.size(), 18u);
   std::map<std::string, std::set<std::string>> anker;
-  for (const std::string& s : seiten) anker[s] = Anker(Seite(s));
+  for (const std::string& s : seiten)
+    anker[s] = Anker(Seite(s));
   const std::regex verweis(R"re(href\s*=\s*"([^"]*)")re");
   std::set<std::string> vomInhalt;
   int verweise = 0;
@@ -104,7 +107,8 @@ TEST(HilfeSeiten, EveryLinkLandsOnAPageAndItsAnchorAndTheContentsListEveryPage) 
   // The isochor advice of the diagram page sends the user to the section "Isochoren".
   bool isochoren = false;
   for (const std::string& s : seiten)
-    isochoren = isochoren || (anker[s].count("isochoren") && Seite(s).find(">Isochoren<") != std::string::npos);
+    isochoren =
+        isochoren || (anker[s].count("isochoren") && Seite(s).find(">Isochoren<") != std::string::npos);
   EXPECT_TRUE(isochoren);
 }
 
@@ -119,7 +123,8 @@ TEST(HilfeSuche, PlainTextLeavesOutTagsAndDecodesEntities) {
 }
 
 TEST(HilfeSuche, WordsAreLowerCaseOncePerInput) {
-  EXPECT_EQ(HilfeSuchWoerter("  Behälter, p(LV)  behÄlter "), (std::vector<std::string>{"behälter", "p", "lv"}));
+  EXPECT_EQ(HilfeSuchWoerter("  Behälter, p(LV)  behÄlter "),
+            (std::vector<std::string>{"behälter", "p", "lv"}));
   EXPECT_TRUE(HilfeSuchWoerter(" ,;- ").empty());
   EXPECT_EQ(HilfeZaehle("aaaa", "aa"), 2);
   EXPECT_EQ(HilfeZaehle("isochore und isochoren", "isochor"), 2);
