@@ -180,7 +180,7 @@ void frmCalcIn::RefInput_Click() {
 }
 
 void frmCalcIn::BENSON_HELP_Click() {
-  ui_.Hilfe(HilfeTipps);
+  ui_.Hilfe(HilfeBerechnungen);
 }
 
 void frmCalcIn::OK_Click() {

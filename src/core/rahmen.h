@@ -28,7 +28,10 @@ enum HilfeThema : int {
   HilfeInhalt = 0,
   HilfeErstnutzer = 11223,
   HilfeTipps = 11124,
-  HilfeRechenUebung = 45333
+  HilfeRechenUebung = 45333,
+  HilfeModelle = 33100,      // the model window
+  HilfeBerechnungen = 41100, // calculations, the PARTIAL reference point, result pages
+  HilfeNormierung = 41200    // the reference state of h and s
 };
 
 // What the frame's own commands ask of the outer layers and of its view. A service left empty is a

@@ -13,6 +13,9 @@ const char* const HilfeHinweisText =
     "- \"Erste Schritte\" führt vom Öffnen der Datenbank bis zum ersten Ergebnis,\r\n"
     "- die \"Rechenübung\" rechnet ein Beispiel vollständig durch,\r\n"
     "- die \"Tipps\" erklären Modelle, Konzepte und die Daten-Ampel.\r\n"
+    "Die \"Inhaltsübersicht\" führt zu allen Seiten, von den Diagrammen bis zum Fitting;\r\n"
+    "das Feld \"Suchen:\" des Hilfefensters findet die Seiten zu einem Stichwort.\r\n"
+    "Die Knöpfe \"Hilfe\" und \"?\" der Fenster öffnen die passende Seite.\r\n"
     "Die Seiten liegen im Unterverzeichnis \"help\" des QUOR-Verzeichnisses.";
 
 const char* const ProgrammInfoText =

@@ -1,9 +1,13 @@
 // The help window: the HTML pages of the program's help folder in a browser with back, forward and
-// contents; a topic number names its page (<topic>.html, the contents page for topic 0).
+// contents; a topic number names its page (<topic>.html, the contents page for topic 0). Beside the
+// page a search: the pages that hold every word typed, best first, each opened by a click.
 #pragma once
 
 #include <QDialog>
 
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
 class QTextBrowser;
 
 namespace quor::ui {
@@ -19,10 +23,17 @@ public:
   static QString SeitenName(int thema);
 
   QTextBrowser* Browser() const { return browser_; }
+  QLineEdit* SuchFeld() const { return suche_; }
+  QListWidget* TrefferListe() const { return treffer_; }
 
 private:
+  void Suchen(const QString& eingabe);
+  void TrefferOeffnen(QListWidgetItem* eintrag);
+
   QString verzeichnis_;
   QTextBrowser* browser_;
+  QLineEdit* suche_;
+  QListWidget* treffer_;
 };
 
 } // namespace quor::ui

@@ -93,7 +93,7 @@ ReferenzFenster::ReferenzFenster(ProjectState& s, Oberflaeche& ui, QWidget* elte
     logik_.ESC_Click();
     reject();
   });
-  connect(hilfe, &QPushButton::clicked, this, [&ui] { ui.Hilfe(HilfeTipps); });
+  connect(hilfe, &QPushButton::clicked, this, [&ui] { ui.Hilfe(HilfeNormierung); });
   auto* knoepfe = new QHBoxLayout;
   knoepfe->addWidget(hilfe);
   knoepfe->addStretch(1);

@@ -121,7 +121,7 @@ QWidget* ModellFenster::Gruppe(const QString& titel, QWidget* inhalt, QWidget* z
   hilfe->setText("?");
   hilfe->setToolTip("Hilfe zu den Modellen");
   hilfe->setFocusPolicy(Qt::NoFocus);
-  connect(hilfe, &QToolButton::clicked, this, [this] { ui_.Hilfe(HilfeTipps); });
+  connect(hilfe, &QToolButton::clicked, this, [this] { ui_.Hilfe(HilfeModelle); });
   auto* zeile = new QHBoxLayout;
   zeile->addWidget(inhalt, 1);
   zeile->addWidget(hilfe, 0, Qt::AlignTop);
