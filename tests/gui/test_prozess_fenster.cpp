@@ -214,5 +214,17 @@ TEST(ProzessFenster, TheResultPagesIsoCalculatorOpensWithItsStateAndClosesWithTh
   EXPECT_FALSE(a.fenster->Prozess()->IsoRechner());
 }
 
+TEST(ProzessFenster, TheVesselFromTheToolbarShowsItsPictureAfterThePage) {
+  test::RechnungsRahmen a;
+  a.fenster->Knopf(15)->trigger();
+  a.Eingeben({"1", "100", "", "150"}); // V, m, n, T
+  KesselFenster* kessel = a.fenster->Prozess()->Kessel();
+  ASSERT_TRUE(kessel && kessel->isVisible());
+  EXPECT_TRUE(a.Seite() && a.Seite()->isVisible());
+  a.fenster->StoffFensterSchliessen();
+  QApplication::processEvents();
+  EXPECT_FALSE(a.fenster->Prozess()->Kessel() && a.fenster->Prozess()->Kessel()->isVisible());
+}
+
 } // namespace
 } // namespace quor::ui

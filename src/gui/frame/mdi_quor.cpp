@@ -60,6 +60,7 @@ mdiQUOR::mdiQUOR(ProjectState& state, Oberflaeche& ui, QWidget* eltern)
   rechnung_->ProzessZeigen = [this] { prozess_->Oeffnen(prozess::Polytrope, true); };
   prozess_->PolytropeErgebnis = [this](const std::string& bericht) { return rechnung_->PolytropeZeigen(bericht); };
   rechnung_->IsoRechnerZeigen = [this](const RechenKontext& k) { prozess_->IsoRechnerOeffnen(k); };
+  rechnung_->BehaelterZeigen = [this](const BehaelterZustand& z) { prozess_->KesselOeffnen(z); };
   prozess_->KurvenInputOeffnen = [this] { editoren_->XYEditorZeigen(); };
   logik_ = std::make_unique<RahmenLogik>(state, ui, Dienste());
   BefehleRegistrieren();
