@@ -203,6 +203,9 @@ Global options:
                           B/(m^3/kmol) = b0 - b1/T^b2 of the hand-input virial model (--eos 10)
   --json                  machine-readable output (JSON) on stdout
   --help, -h              this text
+  --installation          (alone) the program directory the program uses and which of its files
+                          (database, synonyms, help, companion programs) it finds there; exit
+                          code 1 when one is missing
 
 Models are offered, defaulted and corrected as in the model window; a model that the
 substance's data don't allow is refused. Messages of the program (German) go to stderr, in JSON
