@@ -31,7 +31,15 @@ enum HilfeThema : int {
   HilfeRechenUebung = 45333,
   HilfeModelle = 33100,      // the model window
   HilfeBerechnungen = 41100, // calculations, the PARTIAL reference point, result pages
-  HilfeNormierung = 41200    // the reference state of h and s
+  HilfeNormierung = 41200,   // the reference state of h and s
+  HilfeOptionen = 12100,     // the options dialog
+  HilfeProjekte = 12200,     // project files and their open dialog
+  HilfeDiagramme2D = 45100,  // the 2D diagram page
+  HilfeEinfuegungen = 45200, // what the 2D page's insert menu puts on a diagram
+  HilfeDiagramme3D = 45600,  // the 3D diagram page
+  HilfeMessdaten = 46100,    // the editor of measured T, p, rho data
+  HilfeXYEditor = 46200,     // the X-Y data editor
+  HilfeFitting = 46300       // the fitting window
 };
 
 // What the frame's own commands ask of the outer layers and of its view. A service left empty is a

@@ -99,12 +99,13 @@ TEST_F(ProjektGUI, ASavedProjectAndTheLastSessionComeBackInFreshPrograms) {
 TEST_F(ProjektGUI, TheOpenDialogPreviewsProjectsAndKeepsARefusedOneOut) {
   for (const char* name : {"a.QC6", "b.QC6"})
     std::ofstream(ordner / "projekte" / name) << name;
+  SkriptOberflaeche ui;
   ProjektDialogFenster dialog(
       [](const std::string& pfad, std::string& text) {
         text = "Vorschau\r\n" + pfad;
         return pfad.find("b.QC6") == std::string::npos;
       },
-      nullptr);
+      ui, HilfeProjekte, nullptr);
   dialog.Laden("Projekt laden (*.QC6)", "*.QC6", (ordner / "projekte").string(), "");
   dialog.show();
   ASSERT_EQ(dialog.Dateien()->count(), 2);

@@ -1,5 +1,7 @@
 #include "gui/calc/ceos_diagnose_fenster.h"
 
+#include "core/rahmen.h"
+#include "gui/basis/hilfe_knopf.h"
 #include "gui/calc/isotherm_bilder.h"
 
 #include <QFontDatabase>
@@ -26,8 +28,8 @@ QLabel* NeuesLabel(const char* name, const QString& text, QWidget* eltern) {
 
 } // namespace
 
-CEOSDiagnoseFenster::CEOSDiagnoseFenster(const ProjectState& s, const LetzterZustand& letzter,
-                                         QWidget* eltern)
+CEOSDiagnoseFenster::CEOSDiagnoseFenster(const ProjectState& s, Oberflaeche& ui,
+                                         const LetzterZustand& letzter, QWidget* eltern)
     : QDialog(eltern), zustand_(letzter), logik_(s, zustand_), bild_(new IsothermBild(this)) {
   setObjectName("frmCEOSDiagnose");
   setWindowTitle(QString::fromUtf8(frmCEOSDiagnose::Caption));
@@ -64,7 +66,11 @@ CEOSDiagnoseFenster::CEOSDiagnoseFenster(const ProjectState& s, const LetzterZus
   oben->addWidget(bild_, 1);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(oben, 1);
-  layout->addWidget(schliessen, 0, Qt::AlignRight);
+  auto* knoepfe = new QHBoxLayout;
+  knoepfe->addStretch(1);
+  knoepfe->addWidget(schliessen);
+  knoepfe->addWidget(HilfeKnopf(this, ui, HilfeBerechnungen, "Hilfe"));
+  layout->addLayout(knoepfe);
 }
 
 } // namespace quor::ui

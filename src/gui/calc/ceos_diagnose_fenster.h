@@ -11,12 +11,14 @@ class QLabel;
 namespace quor::ui {
 
 class IsothermBild;
+class Oberflaeche;
 
 class CEOSDiagnoseFenster : public QDialog {
   Q_OBJECT
 
 public:
-  CEOSDiagnoseFenster(const ProjectState& s, const LetzterZustand& letzter, QWidget* eltern = nullptr);
+  CEOSDiagnoseFenster(const ProjectState& s, Oberflaeche& ui, const LetzterZustand& letzter,
+                      QWidget* eltern = nullptr);
 
   frmCEOSDiagnose& Logik() { return logik_; }
   QLabel* Wurzeln() const { return wurzeln_; }

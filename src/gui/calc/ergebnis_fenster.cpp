@@ -1,6 +1,8 @@
 #include "gui/calc/ergebnis_fenster.h"
 
+#include "core/rahmen.h"
 #include "dienste/oberflaeche.h"
+#include "gui/basis/hilfe_knopf.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -76,7 +78,7 @@ ErgebnisFenster::ErgebnisFenster(ProjectState& s, Oberflaeche& ui, bool stapelMo
   links->addWidget(BaueErgebnis(), 1);
   auto* oben = new QHBoxLayout;
   oben->addLayout(links, 1);
-  oben->addWidget(BaueOptionen());
+  oben->addWidget(BaueOptionen(ui));
   status_ = NeuesLabel("statusZeile", this);
   status_->setFrameShape(QFrame::StyledPanel);
   status_->setFrameShadow(QFrame::Sunken);
@@ -149,7 +151,7 @@ QWidget* ErgebnisFenster::BaueErgebnis() {
   return box;
 }
 
-QWidget* ErgebnisFenster::BaueOptionen() {
+QWidget* ErgebnisFenster::BaueOptionen(Oberflaeche& ui) {
   auto* spalte = new QWidget(this);
   erweitert_ = new QGroupBox("erweiterte Berechnung", spalte);
   erweitert_->setObjectName("fraCalcErweitert");
@@ -217,7 +219,10 @@ QWidget* ErgebnisFenster::BaueOptionen() {
   layout->addWidget(protokoll_);
   layout->addLayout(werkzeuge);
   layout->addStretch(1);
-  layout->addWidget(NeuerKnopf("cmdCalc_OK", ""));
+  auto* schluss = new QHBoxLayout;
+  schluss->addWidget(NeuerKnopf("cmdCalc_OK", ""), 1);
+  schluss->addWidget(HilfeKnopf(this, ui, HilfeBerechnungen));
+  layout->addLayout(schluss);
   return spalte;
 }
 

@@ -73,7 +73,7 @@ protected:
 private:
   QWidget* BaueKopf();
   QWidget* BaueErgebnis();
-  QWidget* BaueOptionen();
+  QWidget* BaueOptionen(Oberflaeche& ui);
   QPushButton* NeuerKnopf(const char* name, const QString& text);
   void Verbinden();
   void Nachher();

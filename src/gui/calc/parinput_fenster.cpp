@@ -1,5 +1,8 @@
 #include "gui/calc/parinput_fenster.h"
 
+#include "core/rahmen.h"
+#include "gui/basis/hilfe_knopf.h"
+
 #include <QButtonGroup>
 #include <QFontDatabase>
 #include <QGridLayout>
@@ -70,6 +73,7 @@ ParinputFenster::ParinputFenster(ProjectState& s, Oberflaeche& ui, std::function
   knoepfe->addStretch(1);
   knoepfe->addWidget(ok_);
   knoepfe->addWidget(schliessen);
+  knoepfe->addWidget(HilfeKnopf(this, ui, HilfeBerechnungen, "Hilfe"));
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(raster_);
   layout->addWidget(rhoVRahmen_);

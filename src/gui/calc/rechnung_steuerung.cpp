@@ -177,7 +177,7 @@ void RechnungSteuerung::CalcInZeigen() {
 void RechnungSteuerung::DiagnoseZeigen() {
   if (!seite_) return;
   if (diagnose_) diagnose_->close();
-  diagnose_ = new CEOSDiagnoseFenster(s_, seite_->Logik().Kontext.Letzter, rahmen_);
+  diagnose_ = new CEOSDiagnoseFenster(s_, ui_, seite_->Logik().Kontext.Letzter, rahmen_);
   diagnose_->setAttribute(Qt::WA_DeleteOnClose);
   diagnose_->show();
 }

@@ -1,8 +1,10 @@
 #include "gui/diagrams/graph2d_fenster.h"
 
+#include "core/rahmen.h"
 #include "diagrams/diagramm_befehle.h"
 #include "diagrams/diagramm_codes.h"
 #include "dienste/oberflaeche.h"
+#include "gui/basis/hilfe_knopf.h"
 #include "gui/diagrams/diagramm2d_flaeche.h"
 #include "gui/diagrams/graph2d_dialoge.h"
 
@@ -110,6 +112,7 @@ void Graph2DFenster::BaueKopfzeile() {
   for (QWidget* w : std::initializer_list<QWidget*>{farbe, bereich, zurueck, tauschen, legende, datei})
     zeile->addWidget(w);
   zeile->addStretch(1);
+  zeile->addWidget(HilfeKnopf(this, ui_, HilfeDiagramme2D));
   static_cast<QVBoxLayout*>(layout())->addLayout(zeile);
 
   connect(parameter_, &QLineEdit::returnPressed, this, [this] { Zeichnen(); });

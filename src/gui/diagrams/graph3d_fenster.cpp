@@ -1,7 +1,9 @@
 #include "gui/diagrams/graph3d_fenster.h"
 
+#include "core/rahmen.h"
 #include "diagrams/diagramm3d_art.h"
 #include "dienste/oberflaeche.h"
+#include "gui/basis/hilfe_knopf.h"
 #include "gui/diagrams/diagramm3d_flaeche.h"
 #include "gui/diagrams/diagramm_export.h"
 #include "gui/diagrams/graph3d_dialog.h"
@@ -231,7 +233,8 @@ QWidget* Graph3DFenster::BaueKnoepfe() {
   raster->addWidget(ansicht, 1, 0, 1, 2);
   raster->addWidget(kopieren, 2, 0);
   raster->addWidget(drucken, 2, 1);
-  raster->addWidget(bildDatei, 3, 0, 1, 2);
+  raster->addWidget(bildDatei, 3, 0);
+  raster->addWidget(HilfeKnopf(this, ui_, HilfeDiagramme3D, "Hilfe"), 3, 1);
   raster->addWidget(speichern, 4, 0);
   raster->addWidget(laden, 4, 1);
   connect(bildDatei, &QPushButton::clicked, this, [this] { BildSchreiben(); });

@@ -1,5 +1,7 @@
 #include "gui/fitting/fitting_fenster.h"
 
+#include "core/rahmen.h"
+#include "gui/basis/hilfe_knopf.h"
 #include "gui/fitting/editor_hilfen.h"
 
 #include <QButtonGroup>
@@ -44,7 +46,7 @@ FittingFenster::FittingFenster(ProjectState& s, Oberflaeche& ui, QWidget* eltern
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(6, 6, 6, 6);
   layout->addWidget(BaueLinks(), 1);
-  layout->addWidget(BaueRechts());
+  layout->addWidget(BaueRechts(ui));
   Zeige();
 }
 
@@ -220,7 +222,7 @@ QWidget* FittingFenster::BaueLogFit() {
   return rahmen;
 }
 
-QWidget* FittingFenster::BaueRechts() {
+QWidget* FittingFenster::BaueRechts(Oberflaeche& ui) {
   auto* rechts = new QWidget(this);
   rechts->setMinimumWidth(400);
   rechts->setMaximumWidth(440);
@@ -245,6 +247,7 @@ QWidget* FittingFenster::BaueRechts() {
   ziel->setWordWrap(true);
   spalte->addWidget(ziel);
   spalte->addStretch(1);
+  spalte->addWidget(HilfeKnopf(this, ui, HilfeFitting, "Hilfe"), 0, Qt::AlignRight);
   return rechts;
 }
 

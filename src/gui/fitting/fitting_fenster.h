@@ -80,7 +80,7 @@ private:
   void BaueParameterZeile(QGridLayout* raster, int i);
   QGroupBox* BaueSpline();
   QWidget* BaueLogFit();
-  QWidget* BaueRechts();
+  QWidget* BaueRechts(Oberflaeche& ui);
   QGroupBox* BaueFQS();
   QGroupBox* BaueCalc();
   QGroupBox* BaueGrafik();

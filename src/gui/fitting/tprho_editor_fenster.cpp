@@ -1,5 +1,7 @@
 #include "gui/fitting/tprho_editor_fenster.h"
 
+#include "core/rahmen.h"
+#include "gui/basis/hilfe_knopf.h"
 #include "gui/fitting/daten_tabellen_modell.h"
 #include "gui/fitting/editor_hilfen.h"
 
@@ -65,7 +67,7 @@ TpRhoEditorFenster::TpRhoEditorFenster(ProjectState& s, Oberflaeche& ui, QWidget
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(6, 6, 6, 6);
   layout->addLayout(links, 1);
-  layout->addWidget(BaueKnoepfe());
+  layout->addWidget(BaueKnoepfe(ui));
 }
 
 QWidget* TpRhoEditorFenster::BaueTabelle() {
@@ -222,7 +224,7 @@ QPushButton* TpRhoEditorFenster::NeuerKnopf(const char* name, const QString& tex
   return k;
 }
 
-QWidget* TpRhoEditorFenster::BaueKnoepfe() {
+QWidget* TpRhoEditorFenster::BaueKnoepfe(Oberflaeche& ui) {
   auto* rechts = new QWidget(this);
   auto* spalte = new QVBoxLayout(rechts);
   spalte->setContentsMargins(0, 0, 0, 0);
@@ -256,6 +258,7 @@ QWidget* TpRhoEditorFenster::BaueKnoepfe() {
   Knopf("cmdEraseSelected")->setToolTip("setzt die markierten Zellen auf 0; die Zeilen bleiben");
   Knopf("cmdClipboard")->setToolTip("markierte Zellen in die Zwischenablage");
   spalte->addStretch(1);
+  spalte->addWidget(HilfeKnopf(this, ui, HilfeMessdaten, "Hilfe"));
   auto* schliessen = BefehlsKnopf("Edit_OK", Caption("Edit_OK"), "", rechts);
   connect(schliessen, &QPushButton::clicked, this, [this] { FensterSchliessen(this); });
   spalte->addWidget(schliessen);

@@ -69,7 +69,7 @@ private:
   QGroupBox* BaueFitSpalten();
   QGroupBox* BaueEingabe();
   QWidget* BaueEinheiten();
-  QWidget* BaueKnoepfe();
+  QWidget* BaueKnoepfe(Oberflaeche& ui);
   QPushButton* NeuerKnopf(const char* name, const QString& text, std::function<void()> befehl);
   QRadioButton* NeueOption(const char* name, int index, const QString& text, QWidget* eltern,
                            std::function<void()> befehl);

@@ -1,7 +1,9 @@
 #include "gui/fitting/xy_editor_fenster.h"
 
+#include "core/rahmen.h"
 #include "dienste/oberflaeche.h"
 #include "fitting/tprho_editor.h"
+#include "gui/basis/hilfe_knopf.h"
 #include "gui/fitting/daten_tabellen_modell.h"
 #include "gui/fitting/editor_hilfen.h"
 
@@ -26,7 +28,7 @@ XYEditorFenster::XYEditorFenster(ProjectState& s, Oberflaeche& ui, QWidget* elte
   setObjectName("frmQXYEdit");
   auto* oben = new QHBoxLayout;
   oben->addWidget(BaueLinks(), 1);
-  oben->addWidget(BaueKnoepfe());
+  oben->addWidget(BaueKnoepfe(ui));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(6, 6, 6, 6);
   layout->addLayout(oben, 1);
@@ -116,7 +118,7 @@ QPushButton* XYEditorFenster::NeuerKnopf(const char* name, const QString& text, 
   return k;
 }
 
-QWidget* XYEditorFenster::BaueKnoepfe() {
+QWidget* XYEditorFenster::BaueKnoepfe(Oberflaeche& ui) {
   auto* rechts = new QWidget(this);
   auto* raster = new QGridLayout;
   raster->setSpacing(4);
@@ -177,7 +179,11 @@ QWidget* XYEditorFenster::BaueKnoepfe() {
   layout->addLayout(raster);
   layout->addWidget(BaueUmrechnung());
   layout->addStretch(1);
-  layout->addWidget(schliessen, 0, Qt::AlignRight);
+  auto* schluss = new QHBoxLayout;
+  schluss->addStretch(1);
+  schluss->addWidget(HilfeKnopf(this, ui, HilfeXYEditor, "Hilfe"));
+  schluss->addWidget(schliessen);
+  layout->addLayout(schluss);
   return rechts;
 }
 

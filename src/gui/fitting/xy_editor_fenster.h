@@ -60,7 +60,7 @@ protected:
 private:
   QWidget* BaueLinks();
   QWidget* BaueEingabe();
-  QWidget* BaueKnoepfe();
+  QWidget* BaueKnoepfe(Oberflaeche& ui);
   QGroupBox* BaueUmrechnung();
   QPushButton* NeuerKnopf(const char* name, const QString& text, const QString& tipp,
                           std::function<void()> befehl);

@@ -135,7 +135,7 @@ void mdiQUOR::BefehleRegistrieren() {
   r.Handler("mnuData_Fitting", [this](int) { editoren_->FittingZeigen(); });
   r.Handler("mnuFitting", [this](int) { editoren_->FittingZeigen(); });
   editoren_->BatchDateiWaehlen = [this](const std::string& titel, const std::string& muster) {
-    return BatchDateiWaehlen(state_, this, titel, muster);
+    return BatchDateiWaehlen(state_, ui_, this, titel, muster);
   };
   editoren_->TextZeigen = [this](const frmQTextEdit& t) { ZeigeTextFenster(t, this); };
   connect(editoren_, &DatenEditorSteuerung::datenGeaendert, this, &mdiQUOR::Aktualisieren);

@@ -1,5 +1,8 @@
 #include "gui/frame/optionen_fenster.h"
 
+#include "core/rahmen.h"
+#include "gui/basis/hilfe_knopf.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -65,6 +68,7 @@ OptionenFenster::OptionenFenster(ProjectState& s, Oberflaeche& ui, NachOK nachOK
   ok_ = knoepfe->addButton("OK", QDialogButtonBox::AcceptRole);
   ok_->setObjectName("cmdOK");
   knoepfe->addButton(T(OptionenTexte::Schliessen), QDialogButtonBox::RejectRole)->setObjectName("cmdClose");
+  knoepfe->addButton(HilfeKnopf(this, ui, HilfeOptionen, "Hilfe"), QDialogButtonBox::HelpRole);
   connect(knoepfe, &QDialogButtonBox::accepted, this, &OptionenFenster::cmdOK);
   connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
 

@@ -1,7 +1,9 @@
 #include "gui/frame/projekt_dialog.h"
 
 #include "core/projekt_datei.h"
+#include "core/rahmen.h"
 #include "fitting/batch_datei.h"
+#include "gui/basis/hilfe_knopf.h"
 #include "substance/projekt_laden.h"
 
 #include <QDialogButtonBox>
@@ -40,7 +42,8 @@ QWidget* MitUeberschrift(const QString& text, QWidget* inhalt, QWidget* eltern) 
 
 } // namespace
 
-ProjektDialogFenster::ProjektDialogFenster(frmQCmnDlg::VorschauFunktion vorschau, QWidget* eltern)
+ProjektDialogFenster::ProjektDialogFenster(frmQCmnDlg::VorschauFunktion vorschau, Oberflaeche& ui,
+                                           int hilfeThema, QWidget* eltern)
     : QDialog(eltern), logik_(std::move(vorschau)) {
   setObjectName("frmQCmnDlg");
   verzeichnis_ = new QLabel(this);
@@ -75,6 +78,7 @@ ProjektDialogFenster::ProjektDialogFenster(frmQCmnDlg::VorschauFunktion vorschau
   ok_ = knoepfe->addButton("Öffnen", QDialogButtonBox::AcceptRole);
   ok_->setObjectName("cmdOK");
   knoepfe->addButton("Abbrechen", QDialogButtonBox::RejectRole)->setObjectName("cmdCancel");
+  knoepfe->addButton(HilfeKnopf(this, ui, hilfeThema, "Hilfe"), QDialogButtonBox::HelpRole);
   connect(knoepfe, &QDialogButtonBox::accepted, this, &ProjektDialogFenster::Oeffnen);
   connect(knoepfe, &QDialogButtonBox::rejected, this, [this] {
     logik_.cmdCancel_Click();
@@ -123,7 +127,7 @@ std::string ProjektDateiWaehlen(ProjectState& s, Oberflaeche& ui, QWidget* elter
                                 const std::string& muster) {
   ProjektDialogFenster dialog(
       [&s, &ui](const std::string& pfad, std::string& text) { return ProjektVorschau(s, pfad, text, ui); },
-      eltern);
+      ui, HilfeProjekte, eltern);
   const ProjektGruppe& p = s.Projekt;
   const std::string& start =
       p.ProjektVerzeichnis.empty() ? s.Datenbank.ProgrammVerzeichnis : p.ProjektVerzeichnis;
@@ -133,10 +137,11 @@ std::string ProjektDateiWaehlen(ProjectState& s, Oberflaeche& ui, QWidget* elter
   return wahl.cancelled ? std::string() : wahl.Pfad;
 }
 
-std::string BatchDateiWaehlen(ProjectState& s, QWidget* eltern, const std::string& titel,
+std::string BatchDateiWaehlen(ProjectState& s, Oberflaeche& ui, QWidget* eltern, const std::string& titel,
                               const std::string& muster) {
   ProjektDialogFenster dialog(
-      [](const std::string& pfad, std::string& text) { return BatchVorschau(pfad, text); }, eltern);
+      [](const std::string& pfad, std::string& text) { return BatchVorschau(pfad, text); }, ui,
+      HilfeMessdaten, eltern);
   const MessdatenGruppe& m = s.Mess;
   const ProjektGruppe& p = s.Projekt;
   const std::string start = !m.BatchDateiPfad.empty()       ? VerzeichnisTeil(m.BatchDateiPfad)

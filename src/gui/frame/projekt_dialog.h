@@ -21,7 +21,9 @@ class ProjektDialogFenster : public QDialog {
   Q_OBJECT
 
 public:
-  ProjektDialogFenster(frmQCmnDlg::VorschauFunktion vorschau, QWidget* eltern);
+  // The help button opens `hilfeThema`: the projects' page, or the measured data's for their files.
+  ProjektDialogFenster(frmQCmnDlg::VorschauFunktion vorschau, Oberflaeche& ui, int hilfeThema,
+                       QWidget* eltern);
 
   void Laden(const std::string& titel, const std::string& muster, const std::string& verzeichnis,
              const std::string& datei);
@@ -54,7 +56,7 @@ std::string ProjektDateiWaehlen(ProjectState& s, Oberflaeche& ui, QWidget* elter
 
 // The same dialog for a measured-data file, with the file's first lines as preview, starting in the
 // folder of the last such file (else the project directory or the program's).
-std::string BatchDateiWaehlen(ProjectState& s, QWidget* eltern, const std::string& titel,
+std::string BatchDateiWaehlen(ProjectState& s, Oberflaeche& ui, QWidget* eltern, const std::string& titel,
                               const std::string& muster);
 
 } // namespace quor::ui

@@ -1,5 +1,7 @@
 #include "gui/substance/stoff_wahl_fenster.h"
 
+#include "core/rahmen.h"
+#include "gui/basis/hilfe_knopf.h"
 #include "gui/substance/text_fenster.h"
 #include "substance/synonyme.h"
 
@@ -157,6 +159,7 @@ QLayout* StoffWahlFenster::BaueEingabeSpalte() {
   rechts->addWidget(synonyme);
   rechts->addWidget(ok_);
   rechts->addWidget(abbrechen);
+  rechts->addWidget(HilfeKnopf(this, ui_, HilfeErstnutzer, "Hilfe"));
   return rechts;
 }
 
