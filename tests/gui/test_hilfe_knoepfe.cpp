@@ -12,11 +12,13 @@
 #include "programm_hilfe.h"
 
 #include <QDialog>
+#include <QMenu>
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest/QTest>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace quor::ui {
@@ -129,6 +131,22 @@ TEST(HilfeKnoepfe, EveryWindowOpensItsOwnPageByButtonAndF1) {
     const std::vector<int> themen = f.hilfe(a);
     EXPECT_EQ(themen, std::vector<int>(2, f.thema)) << f.name << ": button, then F1";
   }
+}
+
+// The page's insert menu ends with the help on marks and process lines.
+TEST(HilfeKnoepfe, TheInsertMenuOfThe2DPageLeadsToItsPage) {
+  RechnungsRahmen a;
+  QAction* eintrag = a.fenster->Befehl("mnuGraf_sub_cut", 1);
+  ASSERT_TRUE(eintrag);
+  eintrag->trigger();
+  Graph2DFenster* seite = a.fenster->Graf2D()->Seite();
+  ASSERT_TRUE(seite);
+  const std::unique_ptr<QMenu> menue = seite->HauptMenue(-1);
+  auto* hilfe = menue->findChild<QAction*>("mnuInsertHilfe");
+  ASSERT_TRUE(hilfe);
+  a.ui.hilfeThemen.clear();
+  hilfe->trigger();
+  EXPECT_EQ(a.ui.hilfeThemen, std::vector<int>{HilfeEinfuegungen});
 }
 
 } // namespace

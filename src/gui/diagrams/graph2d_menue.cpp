@@ -1,4 +1,5 @@
 // The page's own menu (mnuHaupt) for a right click on an empty place of the diagram.
+#include "core/rahmen.h"
 #include "diagrams/diagramm_befehle.h"
 #include "dienste/oberflaeche.h"
 #include "gui/diagrams/graph2d_fenster.h"
@@ -71,6 +72,9 @@ void Graph2DFenster::EinfuegeMenue(QMenu* m) {
     }
   };
   fuellen(m, "mnuInsert", -1, fuellen);
+  m->addSeparator();
+  connect(MenueEintrag(m, "Hilfe zu Markierungen und Prozesslinien", "mnuInsertHilfe"), &QAction::triggered, this,
+          [this] { ui_.Hilfe(HilfeEinfuegungen); });
 }
 
 void Graph2DFenster::LoeschMenue(QMenu* m) {
