@@ -1,7 +1,7 @@
-// The substance data editor and the estimate in the frame: the editor opens from the data menu, its
-// drawing button opens the 2D page of the function once and refuses beside an open diagram, its
-// Joback button fills the editor's fields, while the estimate of the data menu writes into the
-// substance.
+// The substance data editor and the estimate in the frame: with a substance the editor opens from the
+// data menu, its drawing button opens the 2D page of the function once and refuses beside an open
+// diagram, its Joback button fills the editor's fields, while the estimate of the data menu writes
+// into the substance.
 #include "gui/diagrams/graph2d_steuerung.h"
 #include "gui/frame/stoff_editor_steuerung.h"
 #include "gui/substance/joback_fenster.h"
@@ -29,7 +29,11 @@ void MitJoback(const std::function<void()>& ausloesen, const std::function<void(
 
 TEST(StoffEditoren, TheEditorDrawsOnceAndTakesTheEstimateIntoItsFields) {
   test::Programm a;
+  // Without a substance there is nothing to edit or to fill.
+  EXPECT_FALSE(a.fenster->Befehl("mnuData_EditDatenbank")->isEnabled());
+  EXPECT_FALSE(a.fenster->Befehl("mnuData_JOBACK_cpIdG")->isEnabled());
   a.StoffWaehlen("Methan");
+  EXPECT_TRUE(a.fenster->Befehl("mnuData_EditDatenbank")->isEnabled());
   a.fenster->Befehl("mnuData_EditDatenbank")->trigger();
   BankEditorFenster* editor = a.fenster->StoffEditoren()->BankEditor();
   ASSERT_TRUE(editor && editor->isVisible());
