@@ -2,18 +2,17 @@
 
 #include "core/rahmen.h"
 #include "gui/basis/hilfe_knopf.h"
+#include "gui/basis/zahl_feld.h"
 
 #include <QButtonGroup>
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace quor::ui {
@@ -103,7 +102,7 @@ void ParinputFenster::FelderBauen() {
     auto* feld = new QLineEdit(this);
     feld->setObjectName(QString("par%1").arg(i));
     feld->setMinimumWidth(140);
-    feld->installEventFilter(this);
+    ZahlFeld(feld, ZahlTaste);
     raster_->addWidget(label, static_cast<int>(i), 0);
     raster_->addWidget(feld, static_cast<int>(i), 1);
     labels_.push_back(label);
@@ -147,17 +146,6 @@ void ParinputFenster::cmdParameter_OK() {
     felder_.front()->setFocus();
     felder_.front()->selectAll();
   }
-}
-
-bool ParinputFenster::eventFilter(QObject* objekt, QEvent* ereignis) {
-  auto* feld = qobject_cast<QLineEdit*>(objekt);
-  if (feld && ereignis->type() == QEvent::KeyPress) {
-    const QString text = static_cast<QKeyEvent*>(ereignis)->text();
-    if (!text.isEmpty() && !ZahlTaste(text.at(0).unicode())) return true;
-  } else if (feld && ereignis->type() == QEvent::FocusIn) {
-    QTimer::singleShot(0, feld, &QLineEdit::selectAll);
-  }
-  return QDialog::eventFilter(objekt, ereignis);
 }
 
 } // namespace quor::ui

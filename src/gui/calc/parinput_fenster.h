@@ -41,8 +41,6 @@ public:
 
   void cmdParameter_OK();
 
-protected:
-  bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
 private:
   void FelderBauen();

@@ -1,18 +1,17 @@
 #include "gui/process/iso_rechner_fenster.h"
 
 #include "calc/parinput.h"
+#include "gui/basis/zahl_feld.h"
 #include "dienste/oberflaeche.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace quor::ui {
@@ -88,7 +87,7 @@ QLineEdit* IsoRechnerFenster::NeuesFeld(const char* name) {
   auto* feld = new QLineEdit(this);
   feld->setObjectName(name);
   feld->setMinimumWidth(150);
-  feld->installEventFilter(this);
+  ZahlFeld(feld, ZahlTaste);
   return feld;
 }
 
@@ -184,17 +183,6 @@ void IsoRechnerFenster::Zeige() {
   const bool ohne = !logik_.Geloest && !logik_.txtTpCalc.empty();
   tpCalc_->setStyleSheet(ohne ? "color: #c00000;" : "");
   Knopf("cmdShowManuInput")->setEnabled(static_cast<bool>(KurvenInputOeffnen));
-}
-
-bool IsoRechnerFenster::eventFilter(QObject* objekt, QEvent* ereignis) {
-  auto* feld = qobject_cast<QLineEdit*>(objekt);
-  if (feld && ereignis->type() == QEvent::KeyPress) {
-    const QString text = static_cast<QKeyEvent*>(ereignis)->text();
-    if (!text.isEmpty() && !ZahlTaste(text.at(0).unicode())) return true;
-  } else if (feld && ereignis->type() == QEvent::FocusIn) {
-    QTimer::singleShot(0, feld, &QLineEdit::selectAll);
-  }
-  return QDialog::eventFilter(objekt, ereignis);
 }
 
 } // namespace quor::ui

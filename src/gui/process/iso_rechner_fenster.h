@@ -46,8 +46,6 @@ public:
   // Shows the logic's fields.
   void Zeige();
 
-protected:
-  bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
 private:
   QWidget* BaueOptionen();

@@ -1,6 +1,7 @@
 #include "gui/process/prozess_fenster.h"
 
 #include "calc/parinput.h"
+#include "gui/basis/zahl_feld.h"
 #include "dienste/oberflaeche.h"
 
 #include <QButtonGroup>
@@ -10,13 +11,11 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -123,7 +122,7 @@ QLineEdit* ProzessFenster::NeuesFeld(const char* name) {
   f->setObjectName(name);
   f->setAlignment(Qt::AlignRight);
   f->setFixedWidth(120);
-  f->installEventFilter(this);
+  ZahlFeld(f, ZahlTaste);
   return f;
 }
 
@@ -199,7 +198,7 @@ void ProzessFenster::BaueSonderfelder() {
   kappa->setObjectName("cmbKappa");
   kappa->setEditable(true);
   kappa->setMinimumWidth(300);
-  kappa->lineEdit()->installEventFilter(this);
+  ZahlFeld(kappa->lineEdit(), ZahlTaste);
   kappa->VorOeffnen = [this, kappa] {
     TexteNehmen();
     logik_.cmbKappa_DropDown();
@@ -345,17 +344,6 @@ QLineEdit* ProzessFenster::Feld(const QString& name) const {
 
 QPushButton* ProzessFenster::Knopf(const QString& name) const {
   return findChild<QPushButton*>(name);
-}
-
-bool ProzessFenster::eventFilter(QObject* objekt, QEvent* ereignis) {
-  auto* feld = qobject_cast<QLineEdit*>(objekt);
-  if (feld && ereignis->type() == QEvent::KeyPress) {
-    const QString text = static_cast<QKeyEvent*>(ereignis)->text();
-    if (!text.isEmpty() && text.at(0).isPrint() && !ZahlTaste(text.at(0).unicode())) return true;
-  } else if (feld && ereignis->type() == QEvent::FocusIn) {
-    QTimer::singleShot(0, feld, &QLineEdit::selectAll);
-  }
-  return QDialog::eventFilter(objekt, ereignis);
 }
 
 } // namespace quor::ui

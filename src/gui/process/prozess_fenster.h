@@ -40,8 +40,6 @@ signals:
   // cmdDrawPL was pressed and the logic says what follows.
   void gezeichnet(prozess::ProzessFolge folge);
 
-protected:
-  bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
 private:
   QLineEdit* NeuesFeld(const char* name);

@@ -1,10 +1,10 @@
 #include "gui/process/tpvs_eingabe_fenster.h"
 
 #include "calc/parinput.h"
+#include "gui/basis/zahl_feld.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -26,7 +26,7 @@ TpVSEingabeFenster::TpVSEingabeFenster(prozess::frmTpVSInputBox& logik, QWidget*
   feld_->setObjectName("txtWert");
   feld_->setText(Q(logik_.txtWert));
   feld_->setMinimumWidth(140);
-  feld_->installEventFilter(this);
+  ZahlFeld(feld_, ZahlTaste);
   ok_->setObjectName("cmdOK");
   ok_->setText(Q(logik_.cmdOKCaption));
   ok_->setDefault(true);
@@ -55,14 +55,6 @@ TpVSEingabeFenster::TpVSEingabeFenster(prozess::frmTpVSInputBox& logik, QWidget*
 void TpVSEingabeFenster::cmdOK() {
   logik_.txtWert = feld_->text().toStdString();
   if (logik_.cmdOK_Click()) accept();
-}
-
-bool TpVSEingabeFenster::eventFilter(QObject* objekt, QEvent* ereignis) {
-  if (objekt == feld_ && ereignis->type() == QEvent::KeyPress) {
-    const QString text = static_cast<QKeyEvent*>(ereignis)->text();
-    if (!text.isEmpty() && !ZahlTaste(text.at(0).unicode())) return true;
-  }
-  return QDialog::eventFilter(objekt, ereignis);
 }
 
 } // namespace quor::ui

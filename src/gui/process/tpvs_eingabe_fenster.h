@@ -23,8 +23,6 @@ public:
   // Takes the text; closes with Accepted when the value is good.
   void cmdOK();
 
-protected:
-  bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
 private:
   prozess::frmTpVSInputBox& logik_;
